@@ -1,0 +1,30 @@
+#pragma once
+
+#include "host/scene/Entities.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace Host {
+
+/// Told now and then during an import: how much is done, 0 to 1. Answering false cancels the import.
+using ImportProgress = std::function<bool(double)>;
+
+/// What an import came to.
+struct ImportResult
+{
+    std::optional<Object> object; ///< One object with all meshes and materials of the file.
+    bool cancelled = false;
+    QString error; ///< A sentence for the user when there is no object and nobody cancelled.
+};
+
+/// Reads a model file (glTF 2, OBJ, FBX, Collada, PLY and whatever else Assimp reads). Mesh names, material names,
+/// UVs, diffuse and opacity textures, linked or embedded, come along; triangles only, transforms baked in.
+ImportResult ImportModel(const QString& path, const ImportProgress& progress = {});
+
+/// Suffixes that ImportModel() can read, lower case without a dot, sorted.
+QStringList ImportableSuffixes();
+
+} // namespace Host

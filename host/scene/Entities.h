@@ -1,0 +1,102 @@
+#pragma once
+
+#include "plugin/services/SoftClothRecords.h"
+
+#include <MVPluginQt/Enumerations.h>
+#include <MVPluginQt/Handle.h>
+
+#include <QByteArray>
+#include <QColor>
+#include <QString>
+#include <QVector2D>
+#include <QVector3D>
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace Host {
+
+/// Pointer-sized id of a mesh or a material; 0 is none. Never used twice while its scene lives.
+using Id = std::size_t;
+
+/// An image of a material: linked to a file, embedded, or (after saving a copy) both.
+struct Texture
+{
+    QString filePath;    ///< Absolute path of the linked file; empty for none.
+    QByteArray embedded; ///< The encoded image (PNG, JPEG, …); empty for none.
+};
+
+/// Soft cloth values of one material on one mesh. Every change is an undoable edit.
+struct ClothState
+{
+    bool active = false;          ///< The material simulates.
+    bool useGlobalGravity = true; ///< Follows the scene's gravity.
+    MV::SoftClothPropertyData property;
+    MV::SoftClothCollisionData collision;
+    MV::SoftClothWindData wind;
+};
+
+/// Undoable state of a material that does not depend on the mesh.
+struct MaterialState
+{
+    bool softClothEnabled = true; ///< May take part in the soft cloth.
+};
+
+/// Undoable state of an object.
+struct ObjectState
+{
+    bool exists = true; ///< False once the object was deleted; it is kept for undo.
+    bool softCloth = false;
+    bool rigidBody = false;
+};
+
+/// What the host tells of an object besides its values. Set through the host controls, not undoable.
+struct ObjectTraits
+{
+    quint32 type = 1; ///< The host's object-type code.
+    int kind = 0;     ///< The host's object-kind code.
+    int convertState = 3;
+    bool blocked = false;   ///< The panel is blocked in applications of family A.
+    bool blockedEx = false; ///< The panel is blocked in applications of family B.
+};
+
+struct Material
+{
+    Id id = 0;
+    QString name;
+    QColor diffuse{Qt::lightGray};
+    std::map<MV::ETextureChannel, Texture> textures;
+    MaterialState state;
+};
+
+/// The triangles of a mesh that carry one material, with that material's soft cloth values on the mesh.
+struct MaterialSlot
+{
+    Id material = 0;
+    std::vector<quint32> indices; ///< Three per triangle, into the mesh's vertex arrays.
+    ClothState cloth;
+};
+
+struct Mesh
+{
+    Id id = 0;
+    QString name;
+    std::vector<QVector3D> positions;
+    std::vector<QVector3D> normals; ///< Empty, or one per position.
+    std::vector<QVector2D> uvs;     ///< Empty, or one per position.
+    std::vector<MaterialSlot> materialSlots;
+};
+
+struct Object
+{
+    BF::CHandle* handle = nullptr;
+    QString name;
+    std::vector<Mesh> meshes;
+    std::vector<Material> materials; ///< In the order of the host's material indices.
+    ObjectTraits traits;
+    ObjectState state;
+};
+
+} // namespace Host

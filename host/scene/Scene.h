@@ -1,0 +1,99 @@
+#pragma once
+
+#include "host/scene/Entities.h"
+#include "host/scene/SceneEdit.h"
+
+#include <QObject>
+#include <QUndoStack>
+#include <QVector>
+
+#include <memory>
+#include <vector>
+
+namespace Host {
+
+/// The scene of the stand-in host: objects, selection, modes, and edits with undo. Knows nothing of widgets or of the
+/// plug-in; whoever changes it sends the host's events.
+///
+/// Handles and ids are looked up and never dereferenced, so anything may be passed; an unknown one finds nothing.
+/// Deleted objects are kept for undo but are not found any more.
+class Scene : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Scene(QObject* parent = nullptr);
+    ~Scene() override;
+
+    // --- objects ---
+
+    /// Takes over \p object and gives it a handle, and its meshes and materials ids. Slots name their materials by
+    /// position: on entry a slot's material is the index in \p object.materials plus one.
+    /// \return the stored object; its address stays valid while the scene lives
+    Object& AddObject(Object object);
+
+    /// The objects that exist, in the order of adding.
+    std::vector<Object*> Objects() const;
+    /// All objects, deleted ones included.
+    const std::vector<std::unique_ptr<Object>>& AllObjects() const { return m_objects; }
+
+    Object* FindObject(const BF::CHandle* handle) const;
+    Mesh* FindMesh(Id id) const;
+    Material* FindMaterial(Id id) const;
+    Object* OwnerOfMesh(Id id) const;
+    Object* OwnerOfMaterial(Id id) const;
+    /// Null unless the object exists, has the mesh, and the mesh has the material.
+    MaterialSlot* FindSlot(const ClothAddress& address) const;
+
+    /// Every (mesh, material) of \p object, in the order of its meshes and slots.
+    static std::vector<ClothAddress> SlotsOf(const Object& object);
+
+    /// Display name of an object, a mesh or a material; a null string for an unknown handle or id.
+    QString NameOf(const BF::CHandle* handleOrId) const;
+
+    // --- session state, neither undoable nor saved ---
+
+    const QVector<BF::CHandle*>& Selection() const { return m_selection; }
+    /// Unknown handles and repetitions are left out. \return true when the selection changed
+    bool SetSelection(const QVector<BF::CHandle*>& handles);
+
+    int physicsEngine = 1;
+    bool playing = false;
+    MV::EDialogMode dialogMode = MV::EDialogMode::None;
+    MV::EPickMode pickMode = MV::EPickMode::None;
+
+    // --- edits ---
+
+    /// Applies \p edit as one undo step. Its before-states are taken from the scene, whatever it holds; changes of
+    /// unknown things are left out. \return true when something changed; an edit that changes nothing is no step
+    bool Push(SceneEdit edit);
+
+    /// The objects that an edit touches, each once, in scene order; deleted ones included.
+    QVector<BF::CHandle*> ObjectsOf(const SceneEdit& edit) const;
+
+    /// Applied edits, then undone ones: the undo stack from bottom to top.
+    std::vector<SceneEdit> UndoSteps() const;
+    /// Replaces the undo stack by \p steps of which the first \p applied count as done, without touching any state.
+    void RestoreUndoSteps(const std::vector<SceneEdit>& steps, int applied);
+
+    QUndoStack& UndoStack() { return m_undoStack; }
+
+Q_SIGNALS:
+    /// Objects came or went.
+    void ObjectsChanged();
+    void SelectionChanged();
+    /// An edit was applied, undone or redone; \p objects are those that it touches.
+    void EditApplied(const QVector<BF::CHandle*>& objects);
+
+private:
+    class EditCommand;
+
+    void Apply(const SceneEdit& edit, bool forward);
+
+    std::vector<std::unique_ptr<Object>> m_objects;
+    QVector<BF::CHandle*> m_selection;
+    QUndoStack m_undoStack;
+    bool m_restoring = false;
+};
+
+} // namespace Host

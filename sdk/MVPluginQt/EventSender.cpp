@@ -1,0 +1,10 @@
+#include "MVPluginQt/EventSender.h"
+
+namespace MV {
+
+CEventSender::CEventSender(QObject* parent)
+    : QObject(parent)
+{
+}
+
+} // namespace MV

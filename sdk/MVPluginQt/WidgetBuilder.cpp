@@ -1,0 +1,85 @@
+#include "MVPluginQt/WidgetBuilder.h"
+
+#include "MVPluginQt/FormLoader.h"
+#include "MVPluginQt/LayoutIni.h"
+#include "MVPluginQt/PluginDialog.h"
+#include "ui/QtUiLoader.h"
+#include "ui/UiComponent.h"
+
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace MV {
+
+namespace {
+
+QString WithoutLastPreset(const QString& path)
+{
+    const QString preset = QStringLiteral(".preset");
+    const int at = path.lastIndexOf(preset);
+    return at < 0 ? path : QString(path).replace(at, preset.size(), QLatin1Char('.'));
+}
+
+void FillWith(QWidget* target, QWidget* form)
+{
+    auto* layout = target->layout();
+    if (!layout) {
+        layout = new QVBoxLayout(target);
+        layout->setContentsMargins(0, 0, 0, 0);
+    }
+    layout->addWidget(form);
+}
+
+} // namespace
+
+CWidgetBuilder::CWidgetBuilder(const QString& formPath, const QString& resourceBase)
+    : m_formPath(formPath)
+    , m_plainFormPath(WithoutLastPreset(formPath))
+    , m_resourceBase(resourceBase)
+{
+}
+
+void CWidgetBuilder::SetLayoutIniPath(QString path)
+{
+    m_layoutIniPath = std::move(path);
+}
+
+BF::Result CWidgetBuilder::InitUi(QWidget* target, CUiComponent* component, CMoviraInterface* host, bool fill)
+{
+    QWidget* form = nullptr;
+    return Build(target, component, host, fill, &form);
+}
+
+BF::Result CWidgetBuilder::InitUi(CPluginDialog* target, CUiComponent* component, CMoviraInterface* host, bool fill,
+                                  bool adoptWindow)
+{
+    QWidget* form = nullptr;
+    const BF::Result result = Build(target, component, host, fill, &form);
+    if (!result.IsFailure() && adoptWindow) {
+        target->setWindowTitle(form->windowTitle());
+        target->setWindowIcon(form->windowIcon());
+    }
+    return result;
+}
+
+BF::Result CWidgetBuilder::Build(QWidget* target, CUiComponent* component, CMoviraInterface* host, bool fill,
+                                 QWidget** form)
+{
+    if (!target || !component || !host) {
+        return BF::Results::InvalidArgument;
+    }
+    *form = Internal::LoadForm(m_formPath, m_resourceBase, target);
+    if (!*form) {
+        return BF::Results::ResourceFailure;
+    }
+    if (fill) {
+        FillWith(target, *form);
+    }
+    Internal::ApplyLayoutIni(m_layoutIniPath, *form);
+    CQtUiLoader loader(*form, target);
+    component->SetupUi(loader);
+    return BF::Results::Success;
+}
+
+} // namespace MV

@@ -1,0 +1,3 @@
+#include "ui/UiComponent.h"
+
+CUiComponent::~CUiComponent() = default;
