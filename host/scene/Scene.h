@@ -28,7 +28,8 @@ public:
     // --- objects ---
 
     /// Takes over \p object and gives it a handle, and its meshes and materials ids. Slots name their materials by
-    /// position: on entry a slot's material is the index in \p object.materials plus one.
+    /// position: on entry a slot's material is the index in \p object.materials plus one; a slot that names none is
+    /// left out.
     /// \return the stored object; its address stays valid while the scene lives
     Object& AddObject(Object object);
 
@@ -88,11 +89,21 @@ Q_SIGNALS:
 private:
     class EditCommand;
 
+    /// What was applied but not yet announced.
+    struct Applied
+    {
+        QVector<BF::CHandle*> objects;
+        bool objectsChanged = false;
+        bool selectionChanged = false;
+    };
+
     void Apply(const SceneEdit& edit, bool forward);
+    void AnnounceApplied();
 
     std::vector<std::unique_ptr<Object>> m_objects;
     QVector<BF::CHandle*> m_selection;
     QUndoStack m_undoStack;
+    Applied m_applied;
     bool m_restoring = false;
 };
 
