@@ -22,8 +22,8 @@ QString CallJournal::ToText() const
 {
     QString text;
     for (const JournalEntry& entry : m_entries) {
-        text += QString(entry.depth * 2, QLatin1Char(' ')) + entry.service + QLatin1Char('.') + entry.ToString()
-            + QLatin1Char('\n');
+        text += QString(entry.depth * 2, QLatin1Char(' ')) + entry.service + QLatin1Char('.') + entry.ToString() +
+                QLatin1Char('\n');
     }
     return text;
 }

@@ -10,7 +10,8 @@ namespace Host {
 /// One line of the call journal.
 struct JournalEntry
 {
-    enum class Kind {
+    enum class Kind
+    {
         Call,  ///< The plug-in called a host operation.
         Event, ///< The host sent an event.
     };

@@ -25,9 +25,8 @@ BF::Result EditService::EditCloths(const ClothAddress& address, bool affectAllMa
     }
     SceneEdit edit;
     edit.text = text;
-    const std::vector<ClothAddress> addresses = affectAllMaterials
-        ? Scene::SlotsOf(*scene.FindObject(address.object))
-        : std::vector<ClothAddress>{address};
+    const std::vector<ClothAddress> addresses =
+        affectAllMaterials ? Scene::SlotsOf(*scene.FindObject(address.object)) : std::vector<ClothAddress>{address};
     for (const ClothAddress& touched : addresses) {
         ClothState cloth = scene.FindSlot(touched)->cloth;
         if (!change(cloth)) {
@@ -88,8 +87,8 @@ BF::Result EditService::SetPhysicsActive(BF::CHandle* object, int kind, bool act
 BF::Result EditService::SetUseGlobalGravity(BF::CHandle* object, Id mesh, Id material, bool use,
                                             bool affectAllMaterials)
 {
-    return Record("SetUseGlobalGravity",
-                  {In(object), InId(mesh), InId(material), In(use), In(affectAllMaterials)}, [&] {
+    return Record("SetUseGlobalGravity", {In(object), InId(mesh), InId(material), In(use), In(affectAllMaterials)},
+                  [&] {
                       return EditCloths({object, mesh, material}, affectAllMaterials, App().tr("World gravity"),
                                         [use](ClothState& cloth) {
                                             cloth.useGlobalGravity = use;
@@ -100,8 +99,7 @@ BF::Result EditService::SetUseGlobalGravity(BF::CHandle* object, Id mesh, Id mat
 
 BF::Result EditService::DeleteWeightImage(BF::CHandle* object, Id mesh, Id material)
 {
-    return Record("DeleteWeightImage", {In(object), InId(mesh), InId(material)},
-                  [] { return BF::Results::Refused; });
+    return Record("DeleteWeightImage", {In(object), InId(mesh), InId(material)}, [] { return BF::Results::Refused; });
 }
 
 BF::Result EditService::EmbedWeightImage(BF::CHandle* object, Id mesh, Id material)
@@ -112,39 +110,34 @@ BF::Result EditService::EmbedWeightImage(BF::CHandle* object, Id mesh, Id materi
 BF::Result EditService::SetWeightImageAdjust(BF::CHandle* object, Id mesh, Id material,
                                              const MV::WeightImageAdjust& adjust, bool flag1, bool flag2)
 {
-    return Record("SetWeightImageAdjust",
-                  {In(object), InId(mesh), InId(material), In(adjust), In(flag1), In(flag2)},
+    return Record("SetWeightImageAdjust", {In(object), InId(mesh), InId(material), In(adjust), In(flag1), In(flag2)},
                   [] { return BF::Results::Refused; });
 }
 
-BF::Result
-EditService::SetIgnoredMaterialNames(BF::CHandle* object,
-                                     const std::map<std::wstring, BF::CArrayList<std::wstring>>& names)
+BF::Result EditService::SetIgnoredMaterialNames(BF::CHandle* object,
+                                                const std::map<std::wstring, BF::CArrayList<std::wstring>>& names)
 {
     return Record("SetIgnoredMaterialNames", {In(object), In(names)}, [] { return BF::Results::Refused; });
 }
 
-BF::Result EditService::SetSoftClothProperty(BF::CHandle* object, Id mesh, Id material,
-                                             MV::ESoftClothPropertyType type, const MV::SoftClothPropertyData& data,
-                                             bool affectAllMaterials)
+BF::Result EditService::SetSoftClothProperty(BF::CHandle* object, Id mesh, Id material, MV::ESoftClothPropertyType type,
+                                             const MV::SoftClothPropertyData& data, bool affectAllMaterials)
 {
     return Record("SetSoftClothProperty",
                   {In(object), InId(mesh), InId(material), In(type), In(data), In(affectAllMaterials)}, [&] {
-                      return EditCloths(
-                          {object, mesh, material}, affectAllMaterials, App().tr("Soft cloth property"),
-                          [&](ClothState& cloth) { return TakeField(cloth.property, data, type); });
+                      return EditCloths({object, mesh, material}, affectAllMaterials, App().tr("Soft cloth property"),
+                                        [&](ClothState& cloth) { return TakeField(cloth.property, data, type); });
                   });
 }
 
 BF::Result EditService::SetSoftClothCollision(BF::CHandle* object, Id mesh, Id material,
-                                              MV::ESoftClothCollisionType type,
-                                              const MV::SoftClothCollisionData& data, bool affectAllMaterials)
+                                              MV::ESoftClothCollisionType type, const MV::SoftClothCollisionData& data,
+                                              bool affectAllMaterials)
 {
     return Record("SetSoftClothCollision",
                   {In(object), InId(mesh), InId(material), In(type), In(data), In(affectAllMaterials)}, [&] {
-                      return EditCloths(
-                          {object, mesh, material}, affectAllMaterials, App().tr("Soft cloth collision"),
-                          [&](ClothState& cloth) { return TakeField(cloth.collision, data, type); });
+                      return EditCloths({object, mesh, material}, affectAllMaterials, App().tr("Soft cloth collision"),
+                                        [&](ClothState& cloth) { return TakeField(cloth.collision, data, type); });
                   });
 }
 
@@ -182,8 +175,8 @@ BF::Result EditService::SetMaterialSoftClothEnabled(Id material, bool enabled)
         edit.materials.push_back({material, {}, MaterialState{enabled}});
         if (CurrentScene().Push(std::move(edit))) {
             BF::CHandle* owner = CurrentScene().OwnerOfMaterial(material)->handle;
-            App().Send("ObjectDataChanged", &MV::CEventSender::ObjectDataChanged,
-                       BF::CArrayList<BF::CHandle*>{owner}, MV::EObjectChangedDataType::MaterialList);
+            App().Send("ObjectDataChanged", &MV::CEventSender::ObjectDataChanged, BF::CArrayList<BF::CHandle*>{owner},
+                       MV::EObjectChangedDataType::MaterialList);
         }
         return BF::Results::Success;
     });

@@ -11,8 +11,7 @@ class FileService : public MV::CFileService, private ServiceBase
 public:
     explicit FileService(HostApplication& host);
 
-    BF::Result LoadWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path,
-                               int mode) override;
+    BF::Result LoadWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path, int mode) override;
     BF::Result LoadSoftIniProfile(const std::wstring& path) override;
     BF::Result SaveWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path) override;
 };

@@ -103,7 +103,7 @@ public:
         entry.arguments = QStringList{text(arguments)...};
         const QStringList texts = entry.arguments;
         const qint64 number = m_journal.Begin(std::move(entry));
-        Q_EMIT (m_eventSender.*event)(arguments...);
+        Q_EMIT(m_eventSender.*event)(arguments...);
         m_journal.End(number, texts, {});
     }
 

@@ -83,20 +83,18 @@ QString JournalText::operator()(const QWidget* value) const
 
 QString JournalText::operator()(const MV::SoftClothPropertyData& value) const
 {
-    return Record({Field("mass", QString::number(value.mass)),
-                   Field("solverFrequency", QString::number(value.solverFrequency)),
-                   Field("tetherStiffness", Number(value.tetherStiffness)),
-                   Field("tetherLimit", Number(value.tetherLimit)), Field("friction", Number(value.friction)),
-                   Field("damping", Number(value.damping)), Field("drag", Number(value.drag)),
-                   Field("stiffness", Number(value.stiffness)),
-                   Field("stiffnessFrequency", Number(value.stiffnessFrequency)),
-                   Field("bending", Number(value.bending)),
-                   Field("linearInertiaScale", Number(value.linearInertiaScale)),
-                   Field("angularInertiaScale", Number(value.angularInertiaScale)),
-                   Field("centrifugalInertiaScale", Number(value.centrifugalInertiaScale)),
-                   Field("collisionMassScale", Number(value.collisionMassScale)),
-                   Field("sleepLinearVelocity", Number(value.sleepLinearVelocity)),
-                   Field("wakeCounterValue", Number(value.wakeCounterValue))});
+    return Record(
+        {Field("mass", QString::number(value.mass)), Field("solverFrequency", QString::number(value.solverFrequency)),
+         Field("tetherStiffness", Number(value.tetherStiffness)), Field("tetherLimit", Number(value.tetherLimit)),
+         Field("friction", Number(value.friction)), Field("damping", Number(value.damping)),
+         Field("drag", Number(value.drag)), Field("stiffness", Number(value.stiffness)),
+         Field("stiffnessFrequency", Number(value.stiffnessFrequency)), Field("bending", Number(value.bending)),
+         Field("linearInertiaScale", Number(value.linearInertiaScale)),
+         Field("angularInertiaScale", Number(value.angularInertiaScale)),
+         Field("centrifugalInertiaScale", Number(value.centrifugalInertiaScale)),
+         Field("collisionMassScale", Number(value.collisionMassScale)),
+         Field("sleepLinearVelocity", Number(value.sleepLinearVelocity)),
+         Field("wakeCounterValue", Number(value.wakeCounterValue))});
 }
 
 QString JournalText::operator()(const MV::SoftClothCollisionData& value) const
@@ -115,8 +113,8 @@ QString JournalText::operator()(const MV::SoftClothWindData& value) const
 
 QString JournalText::operator()(const MV::WeightImageAdjust& value) const
 {
-    return Record({Field("brightness", QString::number(value.brightness)),
-                   Field("contrast", QString::number(value.contrast))});
+    return Record(
+        {Field("brightness", QString::number(value.brightness)), Field("contrast", QString::number(value.contrast))});
 }
 
 QString JournalText::operator()(const MV::WeightImageState& value) const

@@ -45,8 +45,7 @@ bool TakeField(MV::SoftClothPropertyData& to, const MV::SoftClothPropertyData& f
     return false;
 }
 
-bool TakeField(MV::SoftClothCollisionData& to, const MV::SoftClothCollisionData& from,
-               MV::ESoftClothCollisionType type)
+bool TakeField(MV::SoftClothCollisionData& to, const MV::SoftClothCollisionData& from, MV::ESoftClothCollisionType type)
 {
     using Type = MV::ESoftClothCollisionType;
     switch (type) {

@@ -119,9 +119,8 @@ BF::Result SceneService::GetPhysicsEngineType(int& engine)
 
 BF::Result SceneService::IsPhysicsActive(BF::CHandle* object, int kind, bool& active)
 {
-    return ReadObject("IsPhysicsActive", {In(object), In(kind), Out(active)}, object, [&](const Object& found) {
-        active = kind == softClothPhysics && found.state.softCloth;
-    });
+    return ReadObject("IsPhysicsActive", {In(object), In(kind), Out(active)}, object,
+                      [&](const Object& found) { active = kind == softClothPhysics && found.state.softCloth; });
 }
 
 BF::Result SceneService::GetSoftClothConvertState(BF::CHandle* object, int& state)

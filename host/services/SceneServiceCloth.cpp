@@ -6,8 +6,8 @@ namespace Host {
 BF::Result SceneService::IsSoftClothActive(BF::CHandle* object, Id mesh, Id material, bool& active)
 {
     return ReadSlot("IsSoftClothActive", object, mesh, material, {Out(active)}, [&](const MaterialSlot& slot) {
-        active = CurrentScene().FindObject(object)->state.softCloth && slot.cloth.active
-            && CurrentScene().FindMaterial(material)->state.softClothEnabled;
+        active = CurrentScene().FindObject(object)->state.softCloth && slot.cloth.active &&
+                 CurrentScene().FindMaterial(material)->state.softClothEnabled;
     });
 }
 

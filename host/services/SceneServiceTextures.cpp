@@ -123,8 +123,7 @@ BF::Result SceneService::GetWeightTexture(BF::CHandle* object, Id mesh, Id mater
     return Unavailable("GetWeightTexture", {In(object), InId(mesh), InId(material), Out(texture)});
 }
 
-BF::Result SceneService::GetWeightImageAdjust(BF::CHandle* object, Id mesh, Id material,
-                                              MV::WeightImageAdjust& adjust)
+BF::Result SceneService::GetWeightImageAdjust(BF::CHandle* object, Id mesh, Id material, MV::WeightImageAdjust& adjust)
 {
     return Unavailable("GetWeightImageAdjust", {In(object), InId(mesh), InId(material), Out(adjust)});
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "host/scene/Handles.h"
 #include "host/services/HostApplication.h"
 #include "host/services/JournalText.h"
-#include "host/scene/Handles.h"
 
 #include <functional>
 #include <vector>

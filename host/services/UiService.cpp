@@ -68,15 +68,14 @@ BF::Result UiService::LaunchImageEditor(const BF::CArrayList<std::wstring>& file
 int UiService::ShowMessageBox(const QString& text, const QString& title, QWidget* parent, int icon, int buttons,
                               int defaultButton)
 {
-    return RecordValue("ShowMessageBox",
-                       {In(text), In(title), In(parent), In(icon), In(buttons), In(defaultButton)}, [&] {
-                           if (const auto prepared = App().Answers().TakeButton()) {
-                               return *prepared;
-                           }
-                           return App().Answers().unattended
-                               ? EscapeAnswer(buttons)
-                               : AskUser(text, title, parent, icon, buttons, defaultButton);
-                       });
+    return RecordValue(
+        "ShowMessageBox", {In(text), In(title), In(parent), In(icon), In(buttons), In(defaultButton)}, [&] {
+            if (const auto prepared = App().Answers().TakeButton()) {
+                return *prepared;
+            }
+            return App().Answers().unattended ? EscapeAnswer(buttons)
+                                              : AskUser(text, title, parent, icon, buttons, defaultButton);
+        });
 }
 
 BF::Result UiService::ShowPanelPage(int page, int order, int flags)

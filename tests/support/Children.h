@@ -19,8 +19,8 @@ T* Child(const QObject* parent, const char* name)
             names.append(QLatin1String(child->metaObject()->className()) + QLatin1Char(' ') + child->objectName());
         }
     }
-    const QString message = QStringLiteral("no %1 called \"%2\"; there is: %3")
-                                .arg(QLatin1String(T::staticMetaObject.className()), QLatin1String(name),
-                                     names.join(QLatin1String(", ")));
+    const QString message =
+        QStringLiteral("no %1 called \"%2\"; there is: %3")
+            .arg(QLatin1String(T::staticMetaObject.className()), QLatin1String(name), names.join(QLatin1String(", ")));
     qFatal("%s", qPrintable(message));
 }

@@ -60,8 +60,8 @@ void TestCase::cleanup()
     QStringList leaked;
     for (const QWidget* window : QApplication::topLevelWidgets()) {
         if (!m_windowsBefore.contains(const_cast<QWidget*>(window))) {
-            leaked.append(QString::fromLatin1(window->metaObject()->className()) + QLatin1Char(' ')
-                          + window->objectName());
+            leaked.append(QString::fromLatin1(window->metaObject()->className()) + QLatin1Char(' ') +
+                          window->objectName());
         }
     }
     const QStringList missing = g_expectedWarnings;
