@@ -1,0 +1,248 @@
+#include "host/import/SceneConversion.h"
+
+#include "host/import/TextureImport.h"
+
+#include <QMatrix4x4>
+
+#include <assimp/material.h>
+#include <assimp/scene.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Host {
+
+namespace {
+
+constexpr std::size_t maxElements = 16'000'000;
+
+/// A node that has meshes, and where it puts them.
+struct MeshNode
+{
+    const aiNode* node = nullptr;
+    aiMatrix4x4 transform;
+};
+
+void CollectMeshNodes(const aiNode& node, const aiMatrix4x4& parent, std::vector<MeshNode>& meshNodes)
+{
+    const aiMatrix4x4 transform = parent * node.mTransformation;
+    if (node.mNumMeshes > 0) {
+        meshNodes.push_back({&node, transform});
+    }
+    for (unsigned i = 0; i < node.mNumChildren; ++i) {
+        CollectMeshNodes(*node.mChildren[i], transform, meshNodes);
+    }
+}
+
+std::vector<MeshNode> MeshNodesOf(const aiScene& scene)
+{
+    std::vector<MeshNode> meshNodes;
+    if (scene.mRootNode) {
+        CollectMeshNodes(*scene.mRootNode, aiMatrix4x4(), meshNodes);
+    }
+    return meshNodes;
+}
+
+QMatrix4x4 ToMatrix(const aiMatrix4x4& m)
+{
+    const auto f = [](ai_real value) { return static_cast<float>(value); };
+    return {f(m.a1), f(m.a2), f(m.a3), f(m.a4), f(m.b1), f(m.b2), f(m.b3), f(m.b4),
+            f(m.c1), f(m.c2), f(m.c3), f(m.c4), f(m.d1), f(m.d2), f(m.d3), f(m.d4)};
+}
+
+/// Damaged files hold infinities, which nothing downstream could cope with.
+float Finite(ai_real value)
+{
+    const auto number = static_cast<float>(value);
+    return std::isfinite(number) ? number : 0.0F;
+}
+
+QVector3D FiniteVector(const QVector3D& vector)
+{
+    return {Finite(vector.x()), Finite(vector.y()), Finite(vector.z())};
+}
+
+QVector3D ToVector(const aiVector3D& vector)
+{
+    return {Finite(vector.x), Finite(vector.y), Finite(vector.z)};
+}
+
+void AppendVertices(Mesh& mesh, const aiMesh& part, const QMatrix4x4& transform)
+{
+    const std::size_t base = mesh.positions.size();
+    const QMatrix3x3 normalTransform = transform.normalMatrix();
+    for (unsigned i = 0; i < part.mNumVertices; ++i) {
+        mesh.positions.push_back(FiniteVector(transform.map(ToVector(part.mVertices[i]))));
+    }
+    if (part.HasNormals()) {
+        const QMatrix4x4 rotation(normalTransform);
+        mesh.normals.resize(base);
+        for (unsigned i = 0; i < part.mNumVertices; ++i) {
+            mesh.normals.push_back(FiniteVector(rotation.mapVector(ToVector(part.mNormals[i])).normalized()));
+        }
+    }
+    if (part.HasTextureCoords(0)) {
+        mesh.uvs.resize(base);
+        for (unsigned i = 0; i < part.mNumVertices; ++i) {
+            mesh.uvs.push_back(ToVector(part.mTextureCoords[0][i]).toVector2D());
+        }
+    }
+}
+
+/// Adds the triangles of \p part, whose vertices begin at \p base.
+void AppendTriangles(std::vector<quint32>& indices, const aiMesh& part, std::size_t base, bool mirrored)
+{
+    for (unsigned i = 0; i < part.mNumFaces; ++i) {
+        const aiFace& face = part.mFaces[i];
+        if (face.mNumIndices != 3) {
+            continue;
+        }
+        const unsigned a = face.mIndices[0];
+        const unsigned b = face.mIndices[mirrored ? 2 : 1];
+        const unsigned c = face.mIndices[mirrored ? 1 : 2];
+        const bool inRange = std::max({a, b, c}) < part.mNumVertices;
+        if (inRange && a != b && b != c && c != a) {
+            for (const unsigned index : {a, b, c}) {
+                indices.push_back(static_cast<quint32>(base + index));
+            }
+        }
+    }
+}
+
+/// The slot of the material with \p index in the file, named by its index plus one until the materials are chosen.
+MaterialSlot& SlotFor(Mesh& mesh, unsigned index)
+{
+    const Id material = Id{index} + 1;
+    const auto found = std::find_if(mesh.materialSlots.begin(), mesh.materialSlots.end(),
+                                    [material](const MaterialSlot& slot) { return slot.material == material; });
+    return found != mesh.materialSlots.end() ? *found : mesh.materialSlots.emplace_back(MaterialSlot{material, {}, {}});
+}
+
+QString NameOf(const MeshNode& meshNode, const aiScene& scene)
+{
+    const aiNode& node = *meshNode.node;
+    const aiString& name = node.mName.length > 0 ? node.mName : scene.mMeshes[node.mMeshes[0]]->mName;
+    return QString::fromUtf8(name.C_Str());
+}
+
+Mesh ToMesh(const MeshNode& meshNode, const aiScene& scene)
+{
+    Mesh mesh;
+    mesh.name = NameOf(meshNode, scene);
+    const QMatrix4x4 transform = ToMatrix(meshNode.transform);
+    for (unsigned i = 0; i < meshNode.node->mNumMeshes; ++i) {
+        const aiMesh& part = *scene.mMeshes[meshNode.node->mMeshes[i]];
+        const std::size_t base = mesh.positions.size();
+        AppendVertices(mesh, part, transform);
+        AppendTriangles(SlotFor(mesh, part.mMaterialIndex).indices, part, base, transform.determinant() < 0.0);
+    }
+    if (!mesh.normals.empty()) {
+        mesh.normals.resize(mesh.positions.size());
+    }
+    if (!mesh.uvs.empty()) {
+        mesh.uvs.resize(mesh.positions.size());
+    }
+    auto& slots = mesh.materialSlots;
+    slots.erase(
+        std::remove_if(slots.begin(), slots.end(), [](const MaterialSlot& slot) { return slot.indices.empty(); }),
+        slots.end());
+    return mesh;
+}
+
+QColor DiffuseOf(const aiMaterial& material)
+{
+    aiColor4D color(0.8F, 0.8F, 0.8F, 1.0F);
+    if (material.Get(AI_MATKEY_COLOR_DIFFUSE, color) != aiReturn_SUCCESS) {
+        material.Get(AI_MATKEY_BASE_COLOR, color);
+    }
+    ai_real opacity = 1.0F;
+    material.Get(AI_MATKEY_OPACITY, opacity);
+    const auto part = [](ai_real value) { return qBound(0.0, static_cast<double>(Finite(value)), 1.0); };
+    return QColor::fromRgbF(part(color.r), part(color.g), part(color.b), part(opacity));
+}
+
+Material ToMaterial(const aiMaterial& source, const aiScene& scene, const QDir& folder)
+{
+    Material material;
+    aiString name;
+    source.Get(AI_MATKEY_NAME, name);
+    material.name = QString::fromUtf8(name.C_Str());
+    material.diffuse = DiffuseOf(source);
+    material.textures = ImportTextures(source, scene, folder);
+    return material;
+}
+
+/// Takes over the materials that a slot uses, and makes the slots name them by their new position plus one.
+void TakeMaterials(Object& object, const aiScene& scene, const QDir& folder)
+{
+    std::vector<Id> newNames(scene.mNumMaterials + std::size_t{1}, 0);
+    const auto forEachSlot = [&object](const auto& action) {
+        for (Mesh& mesh : object.meshes) {
+            std::for_each(mesh.materialSlots.begin(), mesh.materialSlots.end(), action);
+        }
+    };
+    forEachSlot([&](const MaterialSlot& slot) { newNames.at(slot.material) = 1; });
+    for (unsigned i = 0; i < scene.mNumMaterials; ++i) {
+        Id& newName = newNames[i + std::size_t{1}];
+        if (newName != 0) {
+            object.materials.push_back(ToMaterial(*scene.mMaterials[i], scene, folder));
+            newName = object.materials.size();
+        }
+    }
+    forEachSlot([&](MaterialSlot& slot) { slot.material = newNames[slot.material]; });
+}
+
+/// Gives what has no name one by its position.
+template <class Thing>
+void NameUnnamed(std::vector<Thing>& things, const QString& pattern)
+{
+    for (std::size_t i = 0; i < things.size(); ++i) {
+        if (things[i].name.isEmpty()) {
+            things[i].name = pattern.arg(i + 1);
+        }
+    }
+}
+
+} // namespace
+
+bool HasSurfaces(const aiScene& scene)
+{
+    constexpr unsigned surfaces = aiPrimitiveType_TRIANGLE | aiPrimitiveType_POLYGON;
+    return std::any_of(scene.mMeshes, scene.mMeshes + scene.mNumMeshes,
+                       [](const aiMesh* mesh) { return (mesh->mPrimitiveTypes & surfaces) != 0; });
+}
+
+bool IsTooLarge(const aiScene& scene)
+{
+    std::size_t vertices = 0;
+    std::size_t faces = 0;
+    for (const MeshNode& meshNode : MeshNodesOf(scene)) {
+        for (unsigned i = 0; i < meshNode.node->mNumMeshes; ++i) {
+            const aiMesh& part = *scene.mMeshes[meshNode.node->mMeshes[i]];
+            vertices += part.mNumVertices;
+            faces += part.mNumFaces;
+        }
+    }
+    return std::max(vertices, faces) > maxElements;
+}
+
+std::optional<Object> ToObject(const aiScene& scene, const QDir& folder, const std::function<bool(double)>& goOn)
+{
+    Object object;
+    const std::vector<MeshNode> meshNodes = MeshNodesOf(scene);
+    for (std::size_t i = 0; i < meshNodes.size(); ++i) {
+        if (!goOn(static_cast<double>(i) / static_cast<double>(meshNodes.size()))) {
+            return std::nullopt;
+        }
+        Mesh mesh = ToMesh(meshNodes[i], scene);
+        if (!mesh.materialSlots.empty()) {
+            object.meshes.push_back(std::move(mesh));
+        }
+    }
+    TakeMaterials(object, scene, folder);
+    NameUnnamed(object.meshes, QStringLiteral("Mesh %1"));
+    NameUnnamed(object.materials, QStringLiteral("Material %1"));
+    return object;
+}
+
+} // namespace Host
