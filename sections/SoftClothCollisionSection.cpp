@@ -71,18 +71,18 @@ BF::Result CSoftClothCollisionSection::UpdateUi()
     if (!shown.IsSuccess()) {
         return shown;
     }
-    SoftClothCollisionData data;
+    SoftClothCollisionData record;
     const BF::Result read =
-        m_host->GetSceneService()->GetSoftClothCollision(selection.object, selection.mesh, selection.material, data);
+        m_host->GetSceneService()->GetSoftClothCollision(selection.object, selection.mesh, selection.material, record);
     if (read.IsFailure()) {
         return read;
     }
-    SetChecked(m_ui.collideWithRigidCheckBox, data.collideWithRigid);
-    SetChecked(m_ui.selfCollisionCheckBox, data.selfCollision);
-    ShowValue(m_ui.rigidMarginSpinBox, double(data.rigidMargin));
-    EnableRigidMargin(data.collideWithRigid);
-    ShowValue(m_ui.selfMarginSpinBox, double(data.selfMargin));
-    EnableSelfMargin(data.selfCollision);
+    SetChecked(m_ui.collideWithRigidCheckBox, record.collideWithRigid);
+    SetChecked(m_ui.selfCollisionCheckBox, record.selfCollision);
+    ShowValue(m_ui.rigidMarginSpinBox, double(record.rigidMargin));
+    EnableRigidMargin(record.collideWithRigid);
+    ShowValue(m_ui.selfMarginSpinBox, double(record.selfMargin));
+    EnableSelfMargin(record.selfCollision);
     return BF::Results::Success;
 }
 
@@ -126,31 +126,31 @@ template <class Value>
 void CSoftClothCollisionSection::WriteField(ESoftClothCollisionType type, Value SoftClothCollisionData::*field,
                                             Value value)
 {
-    SoftClothCollisionData data;
-    data.*field = value;
-    Write(type, data);
+    SoftClothCollisionData record;
+    record.*field = value;
+    Write(type, record);
 }
 
-void CSoftClothCollisionSection::Write(ESoftClothCollisionType type, const SoftClothCollisionData& data)
+void CSoftClothCollisionSection::Write(ESoftClothCollisionType type, const SoftClothCollisionData& record)
 {
     const SoftClothSelection& selection = m_plugin->Selection();
-    m_host->GetEditService()->SetSoftClothCollision(selection.object, selection.mesh, selection.material, type, data,
+    m_host->GetEditService()->SetSoftClothCollision(selection.object, selection.mesh, selection.material, type, record,
                                                     selection.affectAllMaterials);
 }
 
 void CSoftClothCollisionSection::LoadProfile(QSettings& profile)
 {
-    SoftClothCollisionData data;
-    data.collideWithRigid = profile.value(rigidKey).toBool();
-    data.rigidMargin = profile.value(rigidMarginKey).toFloat();
-    data.selfCollision = profile.value(selfKey).toBool();
-    data.selfMargin = profile.value(selfMarginKey).toFloat();
+    SoftClothCollisionData record;
+    record.collideWithRigid = profile.value(rigidKey).toBool();
+    record.rigidMargin = profile.value(rigidMarginKey).toFloat();
+    record.selfCollision = profile.value(selfKey).toBool();
+    record.selfMargin = profile.value(selfMarginKey).toFloat();
 
-    SetChecked(m_ui.collideWithRigidCheckBox, data.collideWithRigid);
-    ShowValue(m_ui.rigidMarginSpinBox, double(data.rigidMargin));
-    SetChecked(m_ui.selfCollisionCheckBox, data.selfCollision);
-    ShowValue(m_ui.selfMarginSpinBox, double(data.selfMargin));
-    Write(ESoftClothCollisionType::All, data);
+    SetChecked(m_ui.collideWithRigidCheckBox, record.collideWithRigid);
+    ShowValue(m_ui.rigidMarginSpinBox, double(record.rigidMargin));
+    SetChecked(m_ui.selfCollisionCheckBox, record.selfCollision);
+    ShowValue(m_ui.selfMarginSpinBox, double(record.selfMargin));
+    Write(ESoftClothCollisionType::All, record);
 }
 
 void CSoftClothCollisionSection::SaveProfile(QSettings& profile) const

@@ -60,7 +60,7 @@ private:
     /// Writes one field of a record that holds the defaults otherwise.
     template <class Value>
     void WriteField(ESoftClothCollisionType type, Value SoftClothCollisionData::*field, Value value);
-    void Write(ESoftClothCollisionType type, const SoftClothCollisionData& data);
+    void Write(ESoftClothCollisionType type, const SoftClothCollisionData& record);
 
     CPhysicsSoftClothPlugin* m_plugin;
     CMoviraInterface* m_host = nullptr;

@@ -6,7 +6,7 @@
 namespace Host {
 
 /// MV::CAuxService. The state that it answers is always 0.
-class AuxService : public MV::CAuxService, private ServiceBase
+class AuxService final : public MV::CAuxService, private ServiceBase
 {
 public:
     explicit AuxService(HostApplication& host)

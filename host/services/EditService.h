@@ -6,7 +6,7 @@
 namespace Host {
 
 /// MV::CEditService over the scene: every successful write is one undo step. The operations are told in the interface.
-class EditService : public MV::CEditService, private ServiceBase
+class EditService final : public MV::CEditService, private ServiceBase
 {
 public:
     explicit EditService(HostApplication& host);

@@ -6,7 +6,7 @@
 namespace Host {
 
 /// MV::CFileService. The host keeps no weight images and no profiles of its own: every operation is refused.
-class FileService : public MV::CFileService, private ServiceBase
+class FileService final : public MV::CFileService, private ServiceBase
 {
 public:
     explicit FileService(HostApplication& host);

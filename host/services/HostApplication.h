@@ -93,7 +93,7 @@ public:
 
     /// Sends an event and records it in the journal. The modes above send theirs; the host controls send any.
     template <class... Parameters, class... Arguments>
-    void Send(const char* name, void (MV::CEventSender::*event)(Parameters...), const Arguments&... arguments)
+    void Send(const char* name, void (MV::CEventSender::*eventSignal)(Parameters...), const Arguments&... arguments)
     {
         const JournalText text(*m_scene);
         JournalEntry entry;
@@ -103,7 +103,7 @@ public:
         entry.arguments = QStringList{text(arguments)...};
         const QStringList texts = entry.arguments;
         const qint64 number = m_journal.Begin(std::move(entry));
-        Q_EMIT(m_eventSender.*event)(arguments...);
+        Q_EMIT(m_eventSender.*eventSignal)(arguments...);
         m_journal.End(number, texts, {});
     }
 

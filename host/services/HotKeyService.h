@@ -8,7 +8,7 @@
 namespace Host {
 
 /// MV::CHotKeyService: hands out registrations and lets Escape trigger the registered actions.
-class HotKeyService : public MV::CHotKeyService, private ServiceBase
+class HotKeyService final : public MV::CHotKeyService, private ServiceBase
 {
 public:
     explicit HotKeyService(HostApplication& host);

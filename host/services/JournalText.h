@@ -7,6 +7,7 @@
 #include <MVPluginQt/Result.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <map>

@@ -6,7 +6,7 @@
 namespace Host {
 
 /// MV::CSceneService over the scene. The operations are told in the interface.
-class SceneService : public MV::CSceneService, private ServiceBase
+class SceneService final : public MV::CSceneService, private ServiceBase
 {
 public:
     explicit SceneService(HostApplication& host);

@@ -6,7 +6,7 @@
 namespace Host {
 
 /// MV::CSoftClothService over the scene.
-class SoftClothService : public MV::CSoftClothService, private ServiceBase
+class SoftClothService final : public MV::CSoftClothService, private ServiceBase
 {
 public:
     explicit SoftClothService(HostApplication& host);

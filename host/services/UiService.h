@@ -6,7 +6,7 @@
 namespace Host {
 
 /// MV::CUiService: modes of the scene, real message boxes. The operations are told in the interface.
-class UiService : public MV::CUiService, private ServiceBase
+class UiService final : public MV::CUiService, private ServiceBase
 {
 public:
     explicit UiService(HostApplication& host);

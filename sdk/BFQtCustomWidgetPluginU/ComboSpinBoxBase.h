@@ -2,6 +2,7 @@
 
 #include "BFQtCustomWidgetPluginU/ComboSlider.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QWidget>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <type_traits>
+#include <utility>
 
 /// What the two combo spin boxes have in common: a slider beside a spin box, one value, and one notion of a committed
 /// edit over both. \p SpinBox is a host spin box; the derived class is the QObject with the signals.
@@ -16,7 +18,7 @@ template <class SpinBox>
 class ComboSpinBoxBase : public QWidget
 {
 public:
-    using Number = decltype(static_cast<const SpinBox*>(nullptr)->value());
+    using Number = decltype(std::declval<const SpinBox&>().value());
 
     explicit ComboSpinBoxBase(QWidget* parent)
         : QWidget(parent)

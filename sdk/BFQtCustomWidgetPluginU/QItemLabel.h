@@ -6,6 +6,8 @@
 
 #include <functional>
 
+class QMimeData;
+
 /// A picture that can be selected and that takes image files: dropped on it, or asked for with a double click.
 class BFQTCUSTOMWIDGETPLUGINU_EXPORT QItemLabel : public QLabel
 {

@@ -7,6 +7,8 @@
 #include <QTimerEvent>
 #include <QWheelEvent>
 
+#include <utility>
+
 /// Adds to QSpinBox or QDoubleSpinBox the notion of a committed edit, which both host spin boxes share.
 ///
 /// An edit begins with the first user event that changes the value and is committed on Return, on loss of focus, when
@@ -30,7 +32,7 @@ public:
     }
 
 protected:
-    using Value = decltype(static_cast<const SpinBox*>(nullptr)->value());
+    using Value = decltype(std::declval<const SpinBox&>().value());
 
     /// The user has committed an edit that changed the value.
     virtual void Committed() = 0;
