@@ -24,7 +24,7 @@ public:
     virtual BF::Result RefreshScene(int flag) = 0;
     virtual BF::Result LaunchImageEditor(const BF::CArrayList<std::wstring>& files) = 0;
     /// Shows a message and waits for an answer.
-    /// \param icon           2 is information
+    /// \param icon           as QMessageBox::Icon counts; the panel passes 2
     /// \param buttons        a set of Ok (0x400) and Cancel (0x400000)
     /// \param defaultButton  one of \p buttons, or 0
     /// \return the pressed button

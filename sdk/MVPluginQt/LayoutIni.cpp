@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QMargins>
 #include <QMetaEnum>
 #include <QMetaProperty>
 #include <QSet>
@@ -65,11 +64,6 @@ QVariant ValueFor(const QMetaProperty& property, const QVariant& value)
     if (type == QMetaType::QSize) {
         const auto numbers = Numbers(value.toString(), 2);
         return numbers ? QVariant(QSize(numbers->at(0), numbers->at(1))) : QVariant();
-    }
-    if (type == qMetaTypeId<QMargins>()) {
-        const auto numbers = Numbers(value.toString(), 4);
-        return numbers ? QVariant::fromValue(QMargins(numbers->at(0), numbers->at(1), numbers->at(2), numbers->at(3)))
-                       : QVariant();
     }
     if (type == QMetaType::Bool) {
         // QVariant takes any text for true.

@@ -6,6 +6,7 @@
 #include "ui/QtUiLoader.h"
 #include "ui/UiComponent.h"
 
+#include <QIcon>
 #include <QVBoxLayout>
 
 #include <utility>

@@ -1,0 +1,140 @@
+#pragma once
+
+#include "host/scene/Scene.h"
+#include "host/services/CallJournal.h"
+#include "host/services/FaultPlan.h"
+#include "host/services/JournalText.h"
+#include "host/services/PreparedAnswers.h"
+#include "plugin/services/MoviraInterface.h"
+
+#include <MVPluginQt/Enumerations.h>
+#include <MVPluginQt/EventSender.h>
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+#include <utility>
+
+namespace Host {
+
+class AuxService;
+class EditService;
+class FileService;
+class HotKeyService;
+class SceneService;
+class SoftClothService;
+class UiService;
+
+/// The stand-in host application: a scene, the services over it, the events, the call journal and the fault plan.
+///
+/// Whatever changes the scene or a mode goes through here, whether the plug-in asked for it or the user: the state is
+/// stored first, then the event is sent; a change to the same value sends none.
+class HostApplication : public QObject, public MV::CMoviraInterface
+{
+    Q_OBJECT
+
+public:
+    explicit HostApplication(QObject* parent = nullptr);
+    ~HostApplication() override;
+
+    // The interface that plug-ins see.
+    MV::CEventSender* GetEventSender() override;
+    MV::CEditService* GetEditService() override;
+    MV::CFileService* GetFileService() override;
+    MV::CSceneService* GetSceneService() override;
+    MV::CUiService* GetUiService() override;
+    MV::CHotKeyService* GetHotKeyService() override;
+    MV::CSoftClothService* GetSoftClothService() override;
+    MV::CAuxService* GetAuxService() override;
+
+    Scene& CurrentScene() const { return *m_scene; }
+    CallJournal& Journal() { return m_journal; }
+    FaultPlan& Faults() { return m_faults; }
+    PreparedAnswers& Answers() { return m_answers; }
+
+    /// Parent of the plug-in's dialogs and of the host's own.
+    void SetMainWindow(QWidget* window) { m_mainWindow = window; }
+    QWidget* MainWindow() const { return m_mainWindow; }
+
+    /// Folder of the host's data, without a separator at the end.
+    void SetDataFolder(const QString& folder) { m_dataFolder = folder; }
+    const QString& DataFolder() const { return m_dataFolder; }
+
+    // The scene as a whole.
+
+    /// Takes over a new scene in place of the current one.
+    void ReplaceScene(std::unique_ptr<Scene> scene, MV::EFileType type);
+    /// Adds a model as one undo step and selects it. \return the new object's handle
+    BF::CHandle* AddModel(Object object);
+    void DeleteObject(BF::CHandle* object);
+    void Select(const QVector<BF::CHandle*>& objects);
+    void Undo();
+    void Redo();
+
+    // Gates and modes.
+
+    void SetPhysicsEngine(int engine);
+    void SetPlaying(bool playing);
+    void SetDialogMode(MV::EDialogMode mode);
+    void SetPickMode(MV::EPickMode mode);
+    /// Everything that the host tells of an object besides its values. Sends an object-data event on a change.
+    void SetTraits(BF::CHandle* object, const ObjectTraits& traits);
+    /// Puts an object into conversion state \p state; one that is not converting yet is announced.
+    void SetConvertState(BF::CHandle* object, int state);
+    void RenameMaterial(Id material, const QString& name);
+
+    // Edits that more than one caller makes.
+
+    /// Switches soft cloth physics of an object. Switched on, the materials that may take part become soft cloth
+    /// unless some already are. \return false for an unknown object
+    bool SetSoftClothActive(BF::CHandle* object, bool active);
+
+    /// Sends an event and records it in the journal. The modes above send theirs; the host controls send any.
+    template <class... Parameters, class... Arguments>
+    void Send(const char* name, void (MV::CEventSender::*eventSignal)(Parameters...), const Arguments&... arguments)
+    {
+        const JournalText text(*m_scene);
+        JournalEntry entry;
+        entry.kind = JournalEntry::Kind::Event;
+        entry.service = QStringLiteral("Event");
+        entry.operation = QLatin1String(name);
+        entry.arguments = QStringList{text(arguments)...};
+        const QStringList texts = entry.arguments;
+        const qint64 number = m_journal.Begin(std::move(entry));
+        Q_EMIT(m_eventSender.*eventSignal)(arguments...);
+        m_journal.End(number, texts, {});
+    }
+
+Q_SIGNALS:
+    /// The scene was exchanged for another one; whoever listened to the old one connects anew.
+    void SceneReplaced();
+    /// Engine, playing, dialog mode, pick mode or traits changed.
+    void StateChanged();
+    /// The plug-in asked the host to draw the scene again.
+    void SceneRefreshRequested();
+    /// The plug-in asked for a page of the host's panels.
+    void PanelPageRequested(int page, int order, int flags);
+
+private:
+    void StepUndoStack(bool forward);
+
+    std::unique_ptr<Scene> m_scene;
+    MV::CEventSender m_eventSender;
+    CallJournal m_journal;
+    FaultPlan m_faults;
+    PreparedAnswers m_answers;
+    QPointer<QWidget> m_mainWindow;
+    QString m_dataFolder;
+
+    std::unique_ptr<SceneService> m_sceneService;
+    std::unique_ptr<EditService> m_editService;
+    std::unique_ptr<FileService> m_fileService;
+    std::unique_ptr<UiService> m_uiService;
+    std::unique_ptr<HotKeyService> m_hotKeyService;
+    std::unique_ptr<SoftClothService> m_softClothService;
+    std::unique_ptr<AuxService> m_auxService;
+};
+
+} // namespace Host

@@ -1,0 +1,131 @@
+#include "plugin/PhysicsSoftClothPlugin.h"
+
+#include "plugin/Parts.h"
+#include "plugin/services/MoviraInterface.h"
+#include "plugin/services/SceneService.h"
+#include "sections/SoftClothCollisionSection.h"
+
+#include <MVPluginQt/EventSender.h>
+
+#include <new>
+
+namespace MV {
+
+namespace {
+
+/// Owns \p part, which may be destroyed by its Qt parent before.
+template <class Part>
+QSharedPointer<Part> Own(Part* part)
+{
+    return QSharedPointer<Part>(part, [guard = QPointer<Part>(part)](Part*) { delete guard.data(); });
+}
+
+template <class Part>
+CSectionInterface* SectionOf(const QSharedPointer<Part>& part)
+{
+    CSectionInterface* section = nullptr;
+    VisitPart(part, [&section](auto& existing) { section = &existing; });
+    return section;
+}
+
+} // namespace
+
+BF::Result CPhysicsSoftClothPlugin::Initialize(const QString& pluginPath, const QString& resourceBase,
+                                               CMoviraInterface* host)
+{
+    if (!host) {
+        return BF::Results::InvalidArgument;
+    }
+    const BF::Result registered =
+        InitResource(pluginPath, QStringLiteral("MVPhysicsSoftClothSection.rcc"), resourceBase, host);
+    if (registered.IsFailure()) {
+        return registered;
+    }
+    if (HasAnyBit(GetCurrentAp(), ECompatibleApp::Both)) {
+        const BF::Result created = CreateParts(pluginPath, resourceBase, host);
+        if (created.IsFailure()) {
+            return created;
+        }
+    }
+    ConnectHostEvents(host->GetEventSender());
+    return BF::Results::Success;
+}
+
+BF::Result CPhysicsSoftClothPlugin::GetSectionList(QList<CSectionInterface*>& sections)
+{
+    sections.append(SectionOf(m_presetSection));
+    sections.append(SectionOf(m_propertySection));
+    sections.append(SectionOf(m_collisionSection));
+    sections.append(SectionOf(m_windSection));
+    return BF::Results::Success;
+}
+
+/// Creates one part; a class that this build lacks leaves the pointer null.
+template <class Part, class... Arguments>
+BF::Result CPhysicsSoftClothPlugin::CreatePart(QSharedPointer<Part>& part, Arguments... arguments)
+{
+    if constexpr (IsPartBuilt<Part>) {
+        auto* created = new (std::nothrow) Part(arguments...);
+        if (!created) {
+            return BF::Results::ResourceFailure;
+        }
+        part = Own(created);
+        connect(created, &QObject::destroyed, this, [&part] { part.clear(); });
+    }
+    return BF::Results::Success;
+}
+
+BF::Result CPhysicsSoftClothPlugin::CreateParts(const QString& pluginPath, const QString& resourceBase,
+                                                CMoviraInterface* host)
+{
+    BF::Result result;
+    // Each part is initialised right after its creation; the first failure ends the row.
+    const auto create = [&](auto& part, auto... arguments) {
+        if (!result.IsFailure()) {
+            result = CreatePart(part, arguments...);
+        }
+        if (!result.IsFailure()) {
+            result = AskPart(part, [&](auto& created) { return created.Init(pluginPath, resourceBase, host); });
+        }
+    };
+    QWidget* mainWindow = host->GetSceneService()->GetMainWindow();
+    create(m_materialTable, mainWindow, this);
+    create(m_materialDlg, mainWindow, this);
+    create(m_presetSection, this);
+    create(m_propertySection, this);
+    create(m_collisionSection, this);
+    create(m_windSection, this);
+    return result;
+}
+
+void CPhysicsSoftClothPlugin::ConnectHostEvents(CEventSender* sender)
+{
+    if (m_eventSender) {
+        m_eventSender->disconnect(this);
+    }
+    m_eventSender = sender;
+    if (!sender) {
+        return;
+    }
+    using Plugin = CPhysicsSoftClothPlugin;
+    const auto clearAndUpdate = [this] { ClearSelectionAndUpdate(); };
+
+    connect(sender, &CEventSender::ObjectDeleted, this, &Plugin::UpdateUi);
+    connect(sender, &CEventSender::PhysicsEngineChanged, this, &Plugin::UpdateUi);
+    connect(sender, &CEventSender::AboutToConvertPhysicsObjectType, this, &Plugin::OnAboutToConvertPhysicsObjectType);
+    connect(sender, &CEventSender::HierarchyChanged, this, &Plugin::OnHierarchyChanged);
+    connect(sender, &CEventSender::Played, this, &Plugin::OnPlayStopChanged);
+    connect(sender, &CEventSender::Stopped, this, &Plugin::OnPlayStopChanged);
+    connect(sender, &CEventSender::ObjectDataChanged, this, &Plugin::ObjectDataChanged);
+    connect(sender, &CEventSender::LaunchedImageChanged, this, &Plugin::UpdateUi);
+    connect(sender, &CEventSender::ObjectSelectionChanged, this, clearAndUpdate);
+    connect(sender, &CEventSender::AfterFileLoaded, this, clearAndUpdate);
+    if (HasAnyBit(GetCurrentAp(), ECompatibleApp::FamilyB)) {
+        connect(sender, &CEventSender::DialogModeChanged, this, &Plugin::UpdateUi);
+    }
+    connect(sender, &CEventSender::PickedModeChanged, this, &Plugin::OnPickModeChanged);
+    connect(sender, &CEventSender::UndoRedoDone, this, &Plugin::OnUndoRedoDone);
+    connect(sender, &CEventSender::PickedMaterialIndexChanged, this, &Plugin::PickedMaterialIndexChanged);
+}
+
+} // namespace MV

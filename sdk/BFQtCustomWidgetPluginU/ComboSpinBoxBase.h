@@ -1,0 +1,167 @@
+#pragma once
+
+#include "BFQtCustomWidgetPluginU/ComboSlider.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+#include <utility>
+
+/// What the two combo spin boxes have in common: a slider beside a spin box, one value, and one notion of a committed
+/// edit over both. \p SpinBox is a host spin box; the derived class is the QObject with the signals.
+template <class SpinBox>
+class ComboSpinBoxBase : public QWidget
+{
+public:
+    using Number = decltype(std::declval<const SpinBox&>().value());
+
+    explicit ComboSpinBoxBase(QWidget* parent)
+        : QWidget(parent)
+        , m_slider(new ComboSlider(this))
+        , m_spinBox(new SpinBox(this))
+    {
+        auto* layout = new QHBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(m_slider, 1);
+        layout->addWidget(m_spinBox);
+        setFocusProxy(m_spinBox);
+        m_spinBox->setKeyboardTracking(false);
+        FitSlider();
+
+        QObject::connect(m_slider, &QSlider::valueChanged, this, [this](int position) {
+            const QSignalBlocker silent(m_spinBox);
+            const Number before = Value();
+            m_spinBox->setValue(ValueAt(position));
+            if (Value() != before) {
+                TellValueChanged(Value());
+            }
+        });
+        QObject::connect(m_spinBox, qOverload<Number>(&SpinBox::valueChanged), this, [this](Number value) {
+            FitSlider();
+            TellValueChanged(value);
+        });
+        QObject::connect(m_slider, &ComboSlider::EditEnded, this, [this] { FinishEdit(); });
+        QObject::connect(m_spinBox, &SpinBox::RecordEditingValue, this, [this] { FinishEdit(); });
+    }
+
+    /// The value that both halves show.
+    Number Value() const { return m_spinBox->value(); }
+
+    /// Shows \p value, brought into the range. Tells of a changed value, but not of an edit.
+    void SetValue(Number value)
+    {
+        ChangeSilently([value](SpinBox& box) { box.setValue(value); });
+    }
+
+    Number Minimum() const { return m_spinBox->minimum(); }
+    void SetMinimum(Number minimum)
+    {
+        ChangeSilently([minimum](SpinBox& box) { box.setMinimum(minimum); });
+    }
+    Number Maximum() const { return m_spinBox->maximum(); }
+    void SetMaximum(Number maximum)
+    {
+        ChangeSilently([maximum](SpinBox& box) { box.setMaximum(maximum); });
+    }
+    Number SingleStep() const { return m_spinBox->singleStep(); }
+    void SetSingleStep(Number step)
+    {
+        m_spinBox->setSingleStep(step);
+        FitSlider();
+    }
+    QString Prefix() const { return m_spinBox->prefix(); }
+    void SetPrefix(const QString& prefix) { m_spinBox->setPrefix(prefix); }
+    QString Suffix() const { return m_spinBox->suffix(); }
+    void SetSuffix(const QString& suffix) { m_spinBox->setSuffix(suffix); }
+
+protected:
+    /// The value has changed, whoever changed it.
+    virtual void TellValueChanged(Number value) = 0;
+    /// The user has committed an edit.
+    virtual void TellEditFinished() = 0;
+
+    const SpinBox& Box() const { return *m_spinBox; }
+
+    /// Changes the spin box on behalf of the program.
+    template <class Change>
+    void ChangeSilently(Change change)
+    {
+        const Number before = Value();
+        {
+            const QSignalBlocker silent(m_spinBox);
+            change(*m_spinBox);
+        }
+        FitSlider();
+        m_editStart = Value();
+        if (m_editStart != before) {
+            TellValueChanged(m_editStart);
+        }
+    }
+
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::Polish && m_spinBox->accessibleName().isEmpty()) {
+            m_spinBox->setAccessibleName(accessibleName());
+            m_slider->setAccessibleName(accessibleName());
+        }
+        return QWidget::event(event);
+    }
+
+private:
+    /// The value of one slider step; wide ranges get coarser steps.
+    double Resolution() const
+    {
+        constexpr double mostSteps = 1000000.0;
+        return std::max(FinestStep(), Range() / mostSteps);
+    }
+
+    double FinestStep() const
+    {
+        if constexpr (std::is_floating_point_v<Number>) {
+            return std::pow(10.0, -m_spinBox->decimals());
+        } else {
+            return 1.0;
+        }
+    }
+
+    double Range() const { return double(Maximum()) - double(Minimum()); }
+
+    Number ValueAt(int position) const
+    {
+        const double value = std::min(double(Minimum()) + position * Resolution(), double(Maximum()));
+        if constexpr (std::is_floating_point_v<Number>) {
+            return value;
+        } else {
+            return Number(std::lround(value));
+        }
+    }
+
+    /// Brings the slider in line with the spin box.
+    void FitSlider()
+    {
+        const QSignalBlocker silent(m_slider);
+        const double resolution = Resolution();
+        const int steps = int(std::ceil(Range() / resolution - 0.001));
+        m_slider->setRange(0, steps);
+        m_slider->setSingleStep(std::max(1, int(std::lround(double(SingleStep()) / resolution))));
+        m_slider->setPageStep(std::max(1, steps / 10));
+        m_slider->setValue(int(std::lround((double(Value()) - double(Minimum())) / resolution)));
+    }
+
+    void FinishEdit()
+    {
+        if (Value() != m_editStart) {
+            m_editStart = Value();
+            TellEditFinished();
+        }
+    }
+
+    ComboSlider* m_slider;
+    SpinBox* m_spinBox;
+    Number m_editStart{}; ///< The value before the user's current edit.
+};

@@ -1,0 +1,26 @@
+#include "BFQtCustomWidgetPluginU/QComboDoubleSpinBox.h"
+
+QComboDoubleSpinBox::QComboDoubleSpinBox(QWidget* parent)
+    : ComboSpinBoxBase<QDoubleSpinBoxEx>(parent)
+{
+}
+
+int QComboDoubleSpinBox::Decimals() const
+{
+    return Box().decimals();
+}
+
+void QComboDoubleSpinBox::SetDecimals(int decimals)
+{
+    ChangeSilently([decimals](QDoubleSpinBoxEx& box) { box.setDecimals(decimals); });
+}
+
+void QComboDoubleSpinBox::TellValueChanged(double value)
+{
+    Q_EMIT ValueChanged(value);
+}
+
+void QComboDoubleSpinBox::TellEditFinished()
+{
+    Q_EMIT EditFinished();
+}

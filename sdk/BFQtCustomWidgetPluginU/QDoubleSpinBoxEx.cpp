@@ -1,0 +1,11 @@
+#include "BFQtCustomWidgetPluginU/QDoubleSpinBoxEx.h"
+
+QDoubleSpinBoxEx::QDoubleSpinBoxEx(QWidget* parent)
+    : SpinBoxCommit<QDoubleSpinBox>(parent)
+{
+}
+
+void QDoubleSpinBoxEx::Committed()
+{
+    Q_EMIT RecordEditingValue();
+}

@@ -1,0 +1,189 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QTimerEvent>
+#include <QWheelEvent>
+
+#include <utility>
+
+/// Adds to QSpinBox or QDoubleSpinBox the notion of a committed edit, which both host spin boxes share.
+///
+/// An edit begins with the first user event that changes the value and is committed on Return, on loss of focus, when
+/// a held arrow key or arrow button is let go, and a moment after the last wheel step. Committed() is called when the
+/// value then differs from the one at the beginning. A value set by the program in between starts the edit anew: it
+/// was not the user's.
+template <class SpinBox>
+class SpinBoxCommit : public SpinBox
+{
+public:
+    explicit SpinBoxCommit(QWidget* parent)
+        : SpinBox(parent)
+    {
+        this->setFocusPolicy(Qt::StrongFocus);
+    }
+
+    void stepBy(int steps) override
+    {
+        const UserChange change(*this);
+        SpinBox::stepBy(steps);
+    }
+
+protected:
+    using Value = decltype(std::declval<const SpinBox&>().value());
+
+    /// The user has committed an edit that changed the value.
+    virtual void Committed() = 0;
+
+    bool event(QEvent* event) override
+    {
+        // Undo and redo belong to the application unless there is typed text to take back.
+        if (event->type() == QEvent::ShortcutOverride && !this->lineEdit()->isModified()) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+                event->ignore();
+                return false;
+            }
+        }
+        return SpinBox::event(event);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (event->key() == Qt::Key_Escape && RevertTypedText()) {
+            event->accept();
+            return;
+        }
+        {
+            const UserChange change(*this);
+            SpinBox::keyPressEvent(event);
+        }
+        if (isReturn) {
+            Commit();
+        }
+    }
+
+    void keyReleaseEvent(QKeyEvent* event) override
+    {
+        SpinBox::keyReleaseEvent(event);
+        if (!event->isAutoRepeat() && IsStepKey(event->key())) {
+            Commit();
+        }
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        SpinBox::mouseReleaseEvent(event);
+        if (m_stepped) {
+            Commit();
+        }
+    }
+
+    void wheelEvent(QWheelEvent* event) override
+    {
+        // A panel is scrolled with the wheel; a box under the cursor must not change by it.
+        if (!this->hasFocus()) {
+            event->ignore();
+            return;
+        }
+        {
+            const UserChange change(*this);
+            SpinBox::wheelEvent(event);
+        }
+        m_wheelPause.start(wheelPauseMilliseconds, this);
+    }
+
+    void timerEvent(QTimerEvent* event) override
+    {
+        if (event->timerId() == m_wheelPause.timerId()) {
+            Commit();
+            return;
+        }
+        SpinBox::timerEvent(event);
+    }
+
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        {
+            const UserChange change(*this);
+            SpinBox::focusOutEvent(event);
+        }
+        // The box's own context menu takes the focus only for a while.
+        if (event->reason() != Qt::PopupFocusReason) {
+            Commit();
+        }
+    }
+
+private:
+    static constexpr int wheelPauseMilliseconds = 300;
+
+    /// Around everything by which the user can change the value.
+    class UserChange
+    {
+    public:
+        explicit UserChange(SpinBoxCommit& box)
+            : m_box(box)
+            , m_before(box.value())
+        {
+            // A value other than the user's last one was set by the program.
+            if (m_box.m_editing && m_before != m_box.m_lastValue) {
+                m_box.m_editing = false;
+            }
+        }
+        ~UserChange()
+        {
+            if (m_box.value() == m_before) {
+                return;
+            }
+            if (!m_box.m_editing) {
+                m_box.m_editing = true;
+                m_box.m_startValue = m_before;
+            }
+            m_box.m_lastValue = m_box.value();
+            m_box.m_stepped = true;
+        }
+        Q_DISABLE_COPY_MOVE(UserChange)
+
+    private:
+        SpinBoxCommit& m_box;
+        Value m_before;
+    };
+
+    static bool IsStepKey(int key)
+    {
+        return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+    }
+
+    bool RevertTypedText()
+    {
+        if (!this->lineEdit()->isModified() || this->keyboardTracking()) {
+            return false;
+        }
+        this->lineEdit()->setText(this->prefix() + this->textFromValue(this->value()) + this->suffix());
+        this->selectAll();
+        return true;
+    }
+
+    void Commit()
+    {
+        m_wheelPause.stop();
+        m_stepped = false;
+        if (!m_editing) {
+            return;
+        }
+        m_editing = false;
+        const Value value = this->value();
+        if (value == m_lastValue && value != m_startValue) {
+            Committed();
+        }
+    }
+
+    bool m_editing = false; ///< The user has changed the value since the last commit.
+    bool m_stepped = false;
+    Value m_startValue{};
+    Value m_lastValue{};
+    QBasicTimer m_wheelPause;
+};

@@ -1,0 +1,164 @@
+#include "sections/SoftClothCollisionSection.h"
+
+#include "plugin/PanelForm.h"
+#include "plugin/PhysicsSoftClothPlugin.h"
+#include "plugin/services/EditService.h"
+#include "plugin/services/MoviraInterface.h"
+#include "plugin/services/SceneService.h"
+#include "sections/SectionState.h"
+#include "sections/WidgetAccess.h"
+
+#include <BFQtCustomWidgetPluginU/QDoubleSpinBoxEx.h>
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+
+namespace MV {
+
+namespace {
+
+const QString rigidKey = QStringLiteral("Soft_Vs_Rigid_Collision");
+const QString rigidMarginKey = QStringLiteral("Soft_Vs_Rigid_Collision_Margin");
+const QString selfKey = QStringLiteral("Self_Collision");
+const QString selfMarginKey = QStringLiteral("Self_Collision_Margin");
+
+} // namespace
+
+CSoftClothCollisionSection::CSoftClothCollisionSection(CPhysicsSoftClothPlugin* plugin)
+    : QWidget(plugin)
+    , m_plugin(plugin)
+{
+    hide();
+}
+
+CSoftClothCollisionSection::~CSoftClothCollisionSection() = default;
+
+BF::Result CSoftClothCollisionSection::Init(const QString& /*pluginPath*/, const QString& resourceBase,
+                                            CMoviraInterface* host)
+{
+    if (!host) {
+        return BF::Results::InvalidArgument;
+    }
+    m_host = host;
+    const BF::Result built = BuildPanelForm(QStringLiteral("SoftClothCollision"), this, m_ui, resourceBase, host);
+    if (built.IsFailure()) {
+        return built;
+    }
+    SetSectionWidgets(m_ui.expandButton, m_ui.sectionGroupBox);
+    ConnectWidgets();
+    return BF::Results::Success;
+}
+
+void CSoftClothCollisionSection::ConnectWidgets()
+{
+    using Section = CSoftClothCollisionSection;
+    ConnectClicked(m_ui.collideWithRigidCheckBox, this, &Section::OnClickCollideWithRigidCheckBox);
+    ConnectClicked(m_ui.selfCollisionCheckBox, this, &Section::OnClickSelfCollisionCheckBox);
+    ConnectSpinBox(m_ui.rigidMarginSpinBox, this, &Section::OnClickCollideWithRigidMarginDoubleSpinBox);
+    ConnectSpinBox(m_ui.selfMarginSpinBox, this, &Section::OnClickSelfCollisionMarginDoubleSpinBox);
+}
+
+BF::Result CSoftClothCollisionSection::UpdateUi()
+{
+    if (!m_host) {
+        return BF::Results::InvalidArgument;
+    }
+    const SoftClothSelection& selection = m_plugin->Selection();
+    const BF::Result shown = CheckSoftClothShown(selection, *m_host, m_ui.sectionGroupBox);
+    if (!shown.IsSuccess()) {
+        return shown;
+    }
+    SoftClothCollisionData record;
+    const BF::Result read =
+        m_host->GetSceneService()->GetSoftClothCollision(selection.object, selection.mesh, selection.material, record);
+    if (read.IsFailure()) {
+        return read;
+    }
+    SetChecked(m_ui.collideWithRigidCheckBox, record.collideWithRigid);
+    SetChecked(m_ui.selfCollisionCheckBox, record.selfCollision);
+    ShowValue(m_ui.rigidMarginSpinBox, double(record.rigidMargin));
+    EnableRigidMargin(record.collideWithRigid);
+    ShowValue(m_ui.selfMarginSpinBox, double(record.selfMargin));
+    EnableSelfMargin(record.selfCollision);
+    return BF::Results::Success;
+}
+
+void CSoftClothCollisionSection::EnableRigidMargin(bool enable)
+{
+    EnableWidget(m_ui.rigidMarginSpinBox, enable);
+    EnableWidget(m_ui.rigidMarginLabel, enable);
+}
+
+void CSoftClothCollisionSection::EnableSelfMargin(bool enable)
+{
+    EnableWidget(m_ui.selfMarginSpinBox, enable);
+    EnableWidget(m_ui.selfMarginLabel, enable);
+}
+
+void CSoftClothCollisionSection::OnClickCollideWithRigidCheckBox()
+{
+    const bool collide = IsChecked(m_ui.collideWithRigidCheckBox);
+    EnableRigidMargin(collide);
+    WriteField(ESoftClothCollisionType::CollideWithRigid, &SoftClothCollisionData::collideWithRigid, collide);
+}
+
+void CSoftClothCollisionSection::OnClickSelfCollisionCheckBox()
+{
+    const bool collide = IsChecked(m_ui.selfCollisionCheckBox);
+    EnableSelfMargin(collide);
+    WriteField(ESoftClothCollisionType::SelfCollision, &SoftClothCollisionData::selfCollision, collide);
+}
+
+void CSoftClothCollisionSection::OnClickCollideWithRigidMarginDoubleSpinBox(double fValue)
+{
+    WriteField(ESoftClothCollisionType::RigidMargin, &SoftClothCollisionData::rigidMargin, float(fValue));
+}
+
+void CSoftClothCollisionSection::OnClickSelfCollisionMarginDoubleSpinBox(double fValue)
+{
+    WriteField(ESoftClothCollisionType::SelfMargin, &SoftClothCollisionData::selfMargin, float(fValue));
+}
+
+template <class Value>
+void CSoftClothCollisionSection::WriteField(ESoftClothCollisionType type, Value SoftClothCollisionData::*field,
+                                            Value value)
+{
+    SoftClothCollisionData record;
+    record.*field = value;
+    Write(type, record);
+}
+
+void CSoftClothCollisionSection::Write(ESoftClothCollisionType type, const SoftClothCollisionData& record)
+{
+    const SoftClothSelection& selection = m_plugin->Selection();
+    m_host->GetEditService()->SetSoftClothCollision(selection.object, selection.mesh, selection.material, type, record,
+                                                    selection.affectAllMaterials);
+}
+
+void CSoftClothCollisionSection::LoadProfile(QSettings& profile)
+{
+    SoftClothCollisionData record;
+    record.collideWithRigid = profile.value(rigidKey).toBool();
+    record.rigidMargin = profile.value(rigidMarginKey).toFloat();
+    record.selfCollision = profile.value(selfKey).toBool();
+    record.selfMargin = profile.value(selfMarginKey).toFloat();
+
+    SetChecked(m_ui.collideWithRigidCheckBox, record.collideWithRigid);
+    ShowValue(m_ui.rigidMarginSpinBox, double(record.rigidMargin));
+    SetChecked(m_ui.selfCollisionCheckBox, record.selfCollision);
+    ShowValue(m_ui.selfMarginSpinBox, double(record.selfMargin));
+    Write(ESoftClothCollisionType::All, record);
+}
+
+void CSoftClothCollisionSection::SaveProfile(QSettings& profile) const
+{
+    profile.setValue(rigidKey, IsChecked(m_ui.collideWithRigidCheckBox));
+    profile.setValue(rigidMarginKey, ValueOf(m_ui.rigidMarginSpinBox));
+    profile.setValue(selfKey, IsChecked(m_ui.selfCollisionCheckBox));
+    profile.setValue(selfMarginKey, ValueOf(m_ui.selfMarginSpinBox));
+}
+
+} // namespace MV
