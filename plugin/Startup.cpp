@@ -4,6 +4,8 @@
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
 #include "sections/SoftClothCollisionSection.h"
+#include "sections/SoftClothPropertySection.h"
+#include "sections/SoftClothWindSection.h"
 
 #include <MVPluginQt/EventSender.h>
 
