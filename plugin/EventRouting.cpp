@@ -1,5 +1,6 @@
 #include "plugin/PhysicsSoftClothPlugin.h"
 
+#include "material/SoftClothMaterialDlg.h"
 #include "plugin/HostCodes.h"
 #include "plugin/Parts.h"
 #include "plugin/services/AuxService.h"

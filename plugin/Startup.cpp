@@ -1,8 +1,10 @@
 #include "plugin/PhysicsSoftClothPlugin.h"
 
+#include "material/SoftClothMaterialDlg.h"
 #include "plugin/Parts.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
+#include "preset/SoftClothMaterialTable.h"
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
@@ -99,6 +101,7 @@ BF::Result CPhysicsSoftClothPlugin::CreateParts(const QString& pluginPath, const
     QWidget* mainWindow = host->GetSceneService()->GetMainWindow();
     create(m_materialTable, mainWindow, this);
     create(m_materialDlg, mainWindow, this);
+    VisitPart(m_materialDlg, [this](auto& dialog) { dialog.SetMaterialTable(m_materialTable); });
     create(m_presetSection, this);
     create(m_propertySection, this);
     create(m_collisionSection, this);
