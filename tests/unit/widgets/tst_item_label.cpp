@@ -283,8 +283,7 @@ void TestItemLabel::doubleClickTakesTheAnswer()
 
 void TestItemLabel::doubleClickWithoutFunctorDoesNothing()
 {
-    QMouseEvent doubleClick(QEvent::MouseButtonDblClick, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
-                            Qt::NoModifier);
+    QMouseEvent doubleClick(QEvent::MouseButtonDblClick, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(m_label, &doubleClick);
     QCOMPARE(m_selected->size(), 0);
     QCOMPARE(m_loaded->size(), 0);
