@@ -8,6 +8,8 @@
 #include "plugin/services/SceneService.h"
 #include "plugin/services/UiService.h"
 #include "sections/SoftClothCollisionSection.h"
+#include "sections/SoftClothPropertySection.h"
+#include "sections/SoftClothWindSection.h"
 
 #include <set>
 

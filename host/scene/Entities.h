@@ -91,7 +91,7 @@ struct Mesh
     QString name;
     std::vector<QVector3D> positions;
     std::vector<QVector3D> normals; ///< Empty, or one per position.
-    std::vector<QVector2D> uvs;     ///< Empty, or one per position.
+    std::vector<QVector2D> uvs;     ///< Empty, or one per position; (0, 0) is the lower left of an image.
     std::vector<MaterialSlot> materialSlots;
 };
 

@@ -78,6 +78,7 @@ public:
     void RestoreUndoSteps(const std::vector<SceneEdit>& steps, int applied);
 
     QUndoStack& UndoStack() { return m_undoStack; }
+    const QUndoStack& UndoStack() const { return m_undoStack; }
 
 Q_SIGNALS:
     /// Objects came or went.

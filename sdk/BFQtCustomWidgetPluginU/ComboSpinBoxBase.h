@@ -31,6 +31,9 @@ public:
         layout->addWidget(m_spinBox);
         setFocusProxy(m_spinBox);
         m_spinBox->setKeyboardTracking(false);
+        // So that the numbers of several boxes stand in one column, whatever their ranges and suffixes.
+        m_spinBox->setMinimumWidth(96);
+        m_spinBox->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         FitSlider();
 
         QObject::connect(m_slider, &QSlider::valueChanged, this, [this](int position) {

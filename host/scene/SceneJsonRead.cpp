@@ -1,0 +1,280 @@
+#include "host/scene/SceneJson.h"
+
+#include "host/scene/GeometryJson.h"
+#include "host/scene/Handles.h"
+#include "host/scene/Scene.h"
+#include "host/scene/StateJson.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace Host {
+
+namespace {
+
+/// An id in a file; other numbers would not survive as JSON numbers.
+Id LocalId(const JsonNode& node)
+{
+    return static_cast<Id>(node.ToInteger(1, std::numeric_limits<int>::max()));
+}
+
+QColor ColorFromJson(const JsonNode& node)
+{
+    const std::vector<JsonNode> parts = node.Items();
+    if (parts.size() != 4) {
+        node.Refuse(QStringLiteral("must be a list of 4 numbers"));
+    }
+    const auto part = [&](std::size_t i) { return static_cast<quint16>(parts[i].ToInteger(0, 0xffff)); };
+    return QColor::fromRgba64(part(0), part(1), part(2), part(3));
+}
+
+/// The scene file may have moved together with its textures or without them.
+QString TextureFile(const JsonNode& node, const QDir& folder)
+{
+    const QString absolute = node["file"].ToText();
+    if (node.Has("relative")) {
+        const QString moved = QDir::cleanPath(folder.absoluteFilePath(node["relative"].ToText()));
+        if (QFileInfo(moved).isFile()) {
+            return moved;
+        }
+    }
+    return absolute;
+}
+
+std::pair<MV::ETextureChannel, Texture> TextureFromJson(const JsonNode& node, const QDir& folder)
+{
+    constexpr auto first = static_cast<int>(MV::ETextureChannel::Weight);
+    constexpr auto last = static_cast<int>(MV::ETextureChannel::DiffuseAndOpacity);
+    Texture texture;
+    if (node.Has("file")) {
+        texture.filePath = TextureFile(node, folder);
+    }
+    if (node.Has("embedded")) {
+        texture.embedded = node["embedded"].ToBytes();
+    }
+    return {static_cast<MV::ETextureChannel>(node["channel"].ToInteger(first, last)), texture};
+}
+
+// Objects are read with the ids of the file; the scene replaces them.
+
+Material MaterialFromJson(const JsonNode& node, const QDir& folder)
+{
+    Material material;
+    material.id = LocalId(node["id"]);
+    material.name = node["name"].ToText();
+    material.diffuse = ColorFromJson(node["diffuse"]);
+    for (const JsonNode& texture : node["textures"].Items()) {
+        if (!material.textures.insert(TextureFromJson(texture, folder)).second) {
+            texture["channel"].Refuse(QStringLiteral("has a texture already"));
+        }
+    }
+    material.state = StateFromJson<MaterialState>(node["state"]);
+    return material;
+}
+
+std::vector<quint32> IndicesFromJson(const JsonNode& node, std::size_t vertexCount)
+{
+    std::vector<quint32> indices = ArrayFromJson<quint32>(node);
+    if (indices.size() % 3 != 0) {
+        node.Refuse(QStringLiteral("must hold three indices per triangle"));
+    }
+    if (std::any_of(indices.begin(), indices.end(), [vertexCount](quint32 index) { return index >= vertexCount; })) {
+        node.Refuse(QStringLiteral("names a vertex that the mesh does not have"));
+    }
+    return indices;
+}
+
+/// Names its material as Scene::AddObject() wants it: by the position in \p materials plus one.
+MaterialSlot SlotFromJson(const JsonNode& node, std::size_t vertexCount, const std::vector<Material>& materials)
+{
+    const JsonNode name = node["material"];
+    const auto found = std::find_if(materials.begin(), materials.end(),
+                                    [id = LocalId(name)](const Material& material) { return material.id == id; });
+    if (found == materials.end()) {
+        name.Refuse(QStringLiteral("names a material that the object does not have"));
+    }
+    return {static_cast<Id>(found - materials.begin()) + 1, IndicesFromJson(node["indices"], vertexCount),
+            StateFromJson<ClothState>(node["cloth"])};
+}
+
+template <class Item>
+std::vector<Item> PerVertexFromJson(const JsonNode& node, std::size_t vertexCount)
+{
+    std::vector<Item> items = ArrayFromJson<Item>(node);
+    if (!items.empty() && items.size() != vertexCount) {
+        node.Refuse(QStringLiteral("must hold one item per vertex or none"));
+    }
+    return items;
+}
+
+Mesh MeshFromJson(const JsonNode& node, const std::vector<Material>& materials)
+{
+    Mesh mesh;
+    mesh.id = LocalId(node["id"]);
+    mesh.name = node["name"].ToText();
+    mesh.positions = ArrayFromJson<QVector3D>(node["positions"]);
+    mesh.normals = PerVertexFromJson<QVector3D>(node["normals"], mesh.positions.size());
+    mesh.uvs = PerVertexFromJson<QVector2D>(node["uvs"], mesh.positions.size());
+    std::set<Id> used;
+    for (const JsonNode& slot : node["slots"].Items()) {
+        mesh.materialSlots.push_back(SlotFromJson(slot, mesh.positions.size(), materials));
+        if (!used.insert(mesh.materialSlots.back().material).second) {
+            slot["material"].Refuse(QStringLiteral("has a slot on this mesh already"));
+        }
+    }
+    return mesh;
+}
+
+Object ObjectFromJson(const JsonNode& node, const QDir& folder)
+{
+    Object object;
+    object.handle = ToHandle(LocalId(node["id"]));
+    object.name = node["name"].ToText();
+    object.traits = StateFromJson<ObjectTraits>(node["traits"]);
+    object.state = StateFromJson<ObjectState>(node["state"]);
+    for (const JsonNode& material : node["materials"].Items()) {
+        object.materials.push_back(MaterialFromJson(material, folder));
+    }
+    for (const JsonNode& mesh : node["meshes"].Items()) {
+        object.meshes.push_back(MeshFromJson(mesh, object.materials));
+    }
+    return object;
+}
+
+/// The ids of an object and of its parts, always in the same order.
+std::vector<Id> IdsOf(const Object& object)
+{
+    std::vector<Id> ids{ToId(object.handle)};
+    for (const Material& material : object.materials) {
+        ids.push_back(material.id);
+    }
+    for (const Mesh& mesh : object.meshes) {
+        ids.push_back(mesh.id);
+    }
+    return ids;
+}
+
+/// Adds objects to a scene and translates the ids of the file, also in undo steps.
+class Reader
+{
+public:
+    explicit Reader(Scene& scene)
+        : m_scene(scene)
+    {
+    }
+
+    void AddObject(const JsonNode& node, const QDir& folder)
+    {
+        Object object = ObjectFromJson(node, folder);
+        const std::vector<Id> local = IdsOf(object);
+        const Object& added = m_scene.AddObject(std::move(object));
+        const std::vector<Id> fresh = IdsOf(added);
+        for (std::size_t i = 0; i < local.size(); ++i) {
+            if (!m_ids.try_emplace(local[i], fresh[i]).second) {
+                node.Refuse(QStringLiteral("uses the id %1 a second time").arg(local[i]));
+            }
+        }
+        m_objects.insert(added.handle);
+        for (const Material& material : added.materials) {
+            m_materials.insert(material.id);
+        }
+        for (const ClothAddress& address : Scene::SlotsOf(added)) {
+            m_slots.insert({address.object, address.mesh, address.material});
+        }
+    }
+
+    SceneEdit EditFromJson(const JsonNode& node) const
+    {
+        SceneEdit edit;
+        edit.text = node["text"].ToText();
+        for (const JsonNode& change : node["cloths"].Items()) {
+            edit.cloths.push_back(ClothChangeFromJson(change));
+        }
+        for (const JsonNode& change : node["materials"].Items()) {
+            const Id material = Known(m_materials, FreshId(change["material"]), change);
+            edit.materials.push_back({material, Before<MaterialState>(change), After<MaterialState>(change)});
+        }
+        for (const JsonNode& change : node["objects"].Items()) {
+            BF::CHandle* const object = Known(m_objects, ToHandle(FreshId(change["object"])), change);
+            edit.objects.push_back({object, Before<ObjectState>(change), After<ObjectState>(change)});
+        }
+        return edit;
+    }
+
+private:
+    template <class Things, class Thing>
+    static Thing Known(const Things& things, Thing thing, const JsonNode& change)
+    {
+        if (things.count(thing) == 0) {
+            change.Refuse(QStringLiteral("changes something that the scene does not have"));
+        }
+        return thing;
+    }
+
+    template <class State>
+    static State Before(const JsonNode& change)
+    {
+        return StateFromJson<State>(change["before"]);
+    }
+
+    template <class State>
+    static State After(const JsonNode& change)
+    {
+        return StateFromJson<State>(change["after"]);
+    }
+
+    /// 0 for an id that the file does not define.
+    Id FreshId(const JsonNode& node) const
+    {
+        const auto found = m_ids.find(LocalId(node));
+        return found == m_ids.end() ? 0 : found->second;
+    }
+
+    SceneEdit::ClothChange ClothChangeFromJson(const JsonNode& node) const
+    {
+        const ClothAddress address{ToHandle(FreshId(node["object"])), FreshId(node["mesh"]), FreshId(node["material"])};
+        Known(m_slots, std::make_tuple(address.object, address.mesh, address.material), node);
+        return {address, Before<ClothState>(node), After<ClothState>(node)};
+    }
+
+    Scene& m_scene;
+    std::map<Id, Id> m_ids;
+    std::set<BF::CHandle*> m_objects;
+    std::set<Id> m_materials;
+    std::set<std::tuple<BF::CHandle*, Id, Id>> m_slots;
+};
+
+void RequireFormat(const JsonNode& root)
+{
+    if (!root.Has("format") || !root["format"].IsText() || root["format"].ToText() != SceneFormat::name) {
+        throw SceneFormatError(QStringLiteral("it is no scene of this application"));
+    }
+    if (root["version"].ToInteger(1, std::numeric_limits<int>::max()) > SceneFormat::version) {
+        throw SceneFormatError(QStringLiteral("it was written by a newer version of this application"));
+    }
+}
+
+} // namespace
+
+std::unique_ptr<Scene> SceneFromJson(const QJsonObject& document, const QDir& folder)
+{
+    const JsonNode root(document, {});
+    RequireFormat(root);
+    auto scene = std::make_unique<Scene>();
+    Reader reader(*scene);
+    for (const JsonNode& object : root["objects"].Items()) {
+        reader.AddObject(object, folder);
+    }
+    std::vector<SceneEdit> steps;
+    const JsonNode undo = root["undo"];
+    for (const JsonNode& step : undo["steps"].Items()) {
+        steps.push_back(reader.EditFromJson(step));
+    }
+    scene->RestoreUndoSteps(steps, static_cast<int>(undo["applied"].ToInteger(0, static_cast<qint64>(steps.size()))));
+    return scene;
+}
+
+} // namespace Host
