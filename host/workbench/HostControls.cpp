@@ -38,12 +38,10 @@ void SelectData(QComboBox* combo, int data)
 } // namespace
 
 HostControls::HostControls(HostApplication& host, QWidget* parent)
-    : QScrollArea(parent)
+    : SidePanel(parent)
     , m_host(host)
 {
     setObjectName(QStringLiteral("hostControls"));
-    setWidgetResizable(true);
-    setFrameShape(NoFrame);
     auto* content = new QWidget(this);
     auto* form = new QFormLayout(content);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QScrollArea>
+#include "host/workbench/SidePanel.h"
 
 #include <functional>
 #include <vector>
@@ -18,7 +18,7 @@ class HostApplication;
 
 /// Drives every gate of the panel by hand: application, engine, traits of the selected object, modes, playing, events
 /// and failing calls.
-class HostControls : public QScrollArea
+class HostControls : public SidePanel
 {
     Q_OBJECT
 

@@ -22,6 +22,7 @@
 #include <QSettings>
 #include <QStatusBar>
 
+#include <algorithm>
 #include <iterator>
 
 namespace Host {
@@ -56,7 +57,7 @@ MainWindow::MainWindow(QWidget* parent)
     m_host.SetMainWindow(this);
     CreateDocks();
     CreateActions();
-    resize(1360, 820);
+    resize(1440, 860);
     connect(&m_host, &HostApplication::SceneReplaced, this, [this] {
         connect(&m_host.CurrentScene().UndoStack(), &QUndoStack::cleanChanged, this, &MainWindow::ShowTitle);
         ShowTitle();
@@ -88,7 +89,7 @@ void MainWindow::CreateDocks()
     m_modifyPanel = new ModifyPanel;
     QDockWidget* modify = addDock(tr("Modify"), "modifyDock", m_modifyPanel, Qt::RightDockWidgetArea);
     resizeDocks({tree, controls}, {260, 480}, Qt::Vertical);
-    resizeDocks({tree, modify}, {270, 360}, Qt::Horizontal);
+    resizeDocks({tree, modify}, {270, 330}, Qt::Horizontal);
     connect(m_controls, &HostControls::ApplicationChosen, this, &MainWindow::RestartPlugin);
     statusBar();
 }

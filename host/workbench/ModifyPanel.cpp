@@ -7,13 +7,10 @@
 namespace Host {
 
 ModifyPanel::ModifyPanel(QWidget* parent)
-    : QScrollArea(parent)
+    : SidePanel(parent)
     , m_content(new QWidget(this))
     , m_layout(new QVBoxLayout(m_content))
 {
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_layout->setContentsMargins(4, 4, 4, 4);
     m_layout->setSpacing(4);
     m_layout->addStretch(1);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QScrollArea>
+#include "host/workbench/SidePanel.h"
+
 #include <QVector>
 
 class QVBoxLayout;
@@ -12,7 +13,7 @@ class CSectionInterface;
 namespace Host {
 
 /// The host's Modify panel: the sections of a plug-in, one below the other.
-class ModifyPanel : public QScrollArea
+class ModifyPanel : public SidePanel
 {
     Q_OBJECT
 

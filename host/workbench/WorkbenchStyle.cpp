@@ -1,6 +1,7 @@
 #include "host/workbench/WorkbenchStyle.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -52,6 +53,9 @@ void ApplyWorkbenchStyle(QApplication& application)
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(DarkPalette());
+    QFont font = QApplication::font();
+    font.setPointSizeF(9.0);
+    QApplication::setFont(font);
     // Section headers read from left to right, as in every property editor.
     application.setStyleSheet(QStringLiteral("QPushButton#qtExpandPushButton { text-align: left; padding: 5px 8px; "
                                              "font-weight: bold; }"

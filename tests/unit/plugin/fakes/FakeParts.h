@@ -9,7 +9,7 @@
 #include <MVPluginQt/Result.h>
 
 #include <QHash>
-#include <QPointer>
+#include <QWeakPointer>
 #include <QWidget>
 
 /// Stand-ins for the six parts of the panel: each call is written into the host's call journal, between the host
@@ -149,6 +149,7 @@ public:
     {
         return Log("ReloadMaterials", FakeParts::Text(reset));
     }
+    void SetMaterialTable(const QWeakPointer<CSoftClothMaterialTable>& table) { hasTable = !table.isNull(); }
     void SelectWeightingLabel() { Log("SelectWeightingLabel"); }
     BF::Result RefreshMaterialStates() { return Log("RefreshMaterialStates"); }
     BF::Result UpdateUi() { return Log("UpdateUi"); }
@@ -158,6 +159,8 @@ public:
         Log("PickMaterial", QString::number(index));
         return FakeParts::pickChangesMaterial;
     }
+
+    bool hasTable = false;
 };
 
 } // namespace MV
