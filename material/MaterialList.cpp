@@ -30,6 +30,20 @@ constexpr int meshRole = Qt::UserRole + 1;
 constexpr int noRow = -1;
 constexpr quint32 filteredObjectType = 2;
 
+/// Lets the user choose a profile file; empty when none was chosen.
+/// The dialog is no local variable, as QFileDialog's own functions have it: it dies with \p parent.
+QString AskForProfile(QWidget* parent)
+{
+    const QPointer<QFileDialog> dialog(
+        new QFileDialog(parent, QCoreApplication::translate("Open File title", "Load Soft Cloth Custom Profile"),
+                        QString(), QStringLiteral("INI Files (*.ini)")));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    const QString path = accepted && dialog ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
+    return path;
+}
+
 using IgnoredNames = std::map<std::wstring, BF::CArrayList<std::wstring>>;
 
 /// The ignored material names of a profile file; empty when it has none.
@@ -261,9 +275,7 @@ void CSoftClothMaterialDlg::OnFilterMaterialList()
         return;
     }
     const QPointer<CSoftClothMaterialDlg> self(this);
-    const QString path = QFileDialog::getOpenFileName(
-        this, QCoreApplication::translate("Open File title", "Load Soft Cloth Custom Profile"), QString(),
-        QStringLiteral("INI Files (*.ini)"));
+    const QString path = AskForProfile(this);
     if (!self || path.isEmpty()) {
         return;
     }
