@@ -81,12 +81,14 @@ QStringList DialogFixture::TakeOperations()
 void DialogFixture::During(const char* operation, std::function<void()> action)
 {
     auto connection = std::make_shared<QMetaObject::Connection>();
-    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, [=](int index) {
-        if (host.Journal().Entries().at(index).operation == QLatin1String(operation)) {
-            QObject::disconnect(*connection);
-            action();
-        }
-    });
+    const QString name = QString::fromLatin1(operation);
+    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded,
+                                   [this, connection, name, action = std::move(action)](int index) {
+                                       if (host.Journal().Entries().at(index).operation == name) {
+                                           QObject::disconnect(*connection);
+                                           action();
+                                       }
+                                   });
 }
 
 void DialogFixture::Click(const char* buttonName) const
