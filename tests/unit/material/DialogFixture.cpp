@@ -132,4 +132,10 @@ QString RefreshScene()
     return QStringLiteral("RefreshScene(0) -> 0");
 }
 
+QString Draw(const QString& thumbnail, const QString& source)
+{
+    const int pixels = qRound(88 * qApp->devicePixelRatio());
+    return QStringLiteral("RenderThumbnail(%1, %1, %2, %3) -> 0").arg(pixels).arg(thumbnail, source);
+}
+
 } // namespace Journal

@@ -111,17 +111,17 @@ void TestTextureThumbnails::textureIsOpenedAndDrawn_data()
     const QString get = QStringLiteral("GetEmbeddedTexture(\"Skin\", %1) -> 0");
     const QString open = QStringLiteral("OpenTexture(\"Skin\", %1, true) -> 0");
     const QString thumbnail = QStringLiteral("GetTextureThumbnail(\"Skin\", %1, unknown 0xa%1, false) -> 0");
-    const QString draw = QStringLiteral("RenderThumbnail(88, 88, unknown 0xa%1, null) -> 0");
+    const QString draw = Journal::Draw(QStringLiteral("unknown 0xa%1"), QStringLiteral("null"));
     const QString yes = QStringLiteral("true");
     const QString no = QStringLiteral("false");
 
     QTest::newRow("no texture") << false << false << false << false << false
                                 << QStringList{QStringLiteral("GetDefaultThumbnail(unknown 0xd0) -> 0"),
-                                               QStringLiteral("RenderThumbnail(88, 88, unknown 0xd0, null) -> 0")};
+                                               Journal::Draw(QStringLiteral("unknown 0xd0"), QStringLiteral("null"))};
     QTest::newRow("a file without a texture is no texture")
         << false << true << true << true << true
         << QStringList{QStringLiteral("GetDefaultThumbnail(unknown 0xd0) -> 0"),
-                       QStringLiteral("RenderThumbnail(88, 88, unknown 0xd0, null) -> 0")};
+                       Journal::Draw(QStringLiteral("unknown 0xd0"), QStringLiteral("null"))};
     QTest::newRow("texture without a file is not opened")
         << true << false << false << true << true << QStringList{thumbnail, draw};
     QTest::newRow("linked") << true << true << false << false << false
@@ -139,7 +139,7 @@ void TestTextureThumbnails::textureIsOpenedAndDrawn_data()
                        open,
                        QStringLiteral("GetTextureThumbnail(\"Skin\", %1, unknown 0xa%1, true) -> 0"),
                        QStringLiteral("GetThumbnailSource(\"Skin\", %1, unknown 0xb%1) -> 0"),
-                       QStringLiteral("RenderThumbnail(88, 88, unknown 0xa%1, unknown 0xb%1) -> 0")};
+                       Journal::Draw(QStringLiteral("unknown 0xa%1"), QStringLiteral("unknown 0xb%1"))};
 }
 
 void TestTextureThumbnails::textureIsOpenedAndDrawn()
@@ -207,7 +207,7 @@ void TestTextureThumbnails::pictureFillsTheLabel()
     fixture.dialog->UpdateUi();
     for (const char* label : labels) {
         const auto* shown = fixture.Find<QItemLabel>(label);
-        QCOMPARE(shown->pixmap(Qt::ReturnByValue).size(), QSize(88, 88));
+        QCOMPARE(shown->pixmap(Qt::ReturnByValue).size(), QSize(88, 88) * shown->devicePixelRatio());
         QCOMPARE(shown->size(), QSize(88, 88));
     }
     QCOMPARE(ColourOf(fixture, "qtDiffuseItemLabel"), ImagePlan::Colour(ImagePlan::textureThumbnail));
@@ -354,9 +354,10 @@ void TestTextureThumbnails::previewShowsTheCurrentTexture()
     fixture.dialog->SelectWeightingLabel();
     QCOMPARE(ColourOf(fixture, "qtBitmapLabel"), weight);
     const auto* preview = fixture.Find<QLabel>("qtBitmapLabel");
-    QVERIFY(preview->pixmap(Qt::ReturnByValue).height() > 200);
-    QVERIFY(preview->contentsRect().contains(
-        QRect(preview->contentsRect().topLeft(), preview->pixmap(Qt::ReturnByValue).size())));
+    const QSize shown = preview->pixmap(Qt::ReturnByValue).size() / preview->devicePixelRatio();
+    const QSize room = preview->contentsRect().size();
+    QCOMPARE(shown.height(), qMin(room.width(), room.height()));
+    QCOMPARE(shown.width(), shown.height());
 }
 
 void TestTextureThumbnails::editorGetsTheCurrentTexture_data()
@@ -525,7 +526,7 @@ void TestTextureThumbnails::changedTextureIsDrawnAnew()
         expected.append(
             QStringLiteral("GetMaterialTextureState(\"Skin\", %1, false, false, false, false) -> 0").arg(each));
         expected.append(QStringLiteral("GetDefaultThumbnail(unknown 0xd0) -> 0"));
-        expected.append(QStringLiteral("RenderThumbnail(88, 88, unknown 0xd0, null) -> 0"));
+        expected.append(Journal::Draw(QStringLiteral("unknown 0xd0"), QStringLiteral("null")));
     }
     QCOMPARE(fixture.Take(), expected);
 }

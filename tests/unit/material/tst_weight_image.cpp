@@ -438,7 +438,7 @@ void TestWeightImage::embeddingDrawsAndUpdates_data()
     QTest::addColumn<QStringList>("calls");
     const QString embed = QStringLiteral("EmbedWeightImage(%1) -> 0").arg(triple);
     const QString texture = QStringLiteral("GetWeightTexture(%1, %2) -> 0");
-    const QString draw = QStringLiteral("RenderThumbnail(88, 88, %1, %2) -> 0");
+    const QString draw = Journal::Draw(QStringLiteral("%1"), QStringLiteral("%2"));
     const QString none = QStringLiteral("null");
     const QString weight = QStringLiteral("unknown 0xe0");
     const QString standIn = QStringLiteral("unknown 0xd0");
@@ -735,7 +735,7 @@ void TestWeightImage::settingsAreReadInOrder()
         expected.append(QStringLiteral("GetWeightImagePath(%1, \"/images/gray.png\") -> 0").arg(triple));
     }
     expected.append({QStringLiteral("GetThumbnailSourceImage(unknown 0xe0, unknown 0xe1) -> ") + answer,
-                     QStringLiteral("RenderThumbnail(88, 88, unknown 0xe0, %1) -> 0").arg(source),
+                     Journal::Draw(QStringLiteral("unknown 0xe0"), QStringLiteral("%1")).arg(source),
                      QStringLiteral("GetWeightImageAdjust(%1, {brightness=0, contrast=0}) -> 0").arg(triple)});
     // After the three calls each of the diffuse and the opacity texture.
     QCOMPARE(fixture.Take().mid(6), expected);
