@@ -74,6 +74,10 @@ BF::Result CWidgetBuilder::Build(QWidget* target, CUiComponent* component, CMovi
     if (!*form) {
         return BF::Results::ResourceFailure;
     }
+    if ((*form)->isWindow()) {
+        // A form made as a dialog is a part of its target all the same.
+        (*form)->setWindowFlags(Qt::Widget);
+    }
     if (fill) {
         FillWith(target, *form);
     }
