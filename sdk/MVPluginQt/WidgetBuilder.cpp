@@ -78,6 +78,10 @@ QWidget* CWidgetBuilder::LoadInto(QWidget* target, CUiComponent* component, bool
     if (!form) {
         return nullptr;
     }
+    if (form->isWindow()) {
+        // A form made as a dialog is a part of its target all the same.
+        form->setWindowFlags(Qt::Widget);
+    }
     if (fill) {
         FillWith(target, form);
     }
