@@ -310,7 +310,8 @@ void CMultiLevelSlider::hideEvent(QHideEvent* event)
 }
 
 /// Takes a copy: the owner may exchange the function from within the call.
-void CMultiLevelSlider::Report(const Callback& callback) const
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+void CMultiLevelSlider::Report(Callback callback) const
 {
     if (callback) {
         callback(m_selectedIndex);
