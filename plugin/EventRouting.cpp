@@ -1,5 +1,6 @@
 #include "plugin/PhysicsSoftClothPlugin.h"
 
+#include "material/SoftClothMaterialDlg.h"
 #include "plugin/HostCodes.h"
 #include "plugin/Parts.h"
 #include "plugin/services/AuxService.h"
@@ -7,6 +8,8 @@
 #include "plugin/services/SceneService.h"
 #include "plugin/services/UiService.h"
 #include "sections/SoftClothCollisionSection.h"
+#include "sections/SoftClothPropertySection.h"
+#include "sections/SoftClothWindSection.h"
 
 #include <set>
 

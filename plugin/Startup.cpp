@@ -1,23 +1,34 @@
 #include "plugin/PhysicsSoftClothPlugin.h"
 
+#include "material/SoftClothMaterialDlg.h"
 #include "plugin/Parts.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
+#include "preset/SoftClothMaterialTable.h"
 #include "sections/SoftClothCollisionSection.h"
+#include "sections/SoftClothPropertySection.h"
+#include "sections/SoftClothWindSection.h"
 
 #include <MVPluginQt/EventSender.h>
 
+#include <memory>
 #include <new>
 
 namespace MV {
 
 namespace {
 
-/// Owns \p part, which may be destroyed by its Qt parent before.
+/// Makes \p holder own \p part, which may be destroyed by its Qt parent before and takes itself out of the holder
+/// then. A dying widget says so while QPointers to it still stand, so the guard is cleared by hand.
 template <class Part>
-QSharedPointer<Part> Own(Part* part)
+void Own(QSharedPointer<Part>& holder, Part* part, const QObject* context)
 {
-    return QSharedPointer<Part>(part, [guard = QPointer<Part>(part)](Part*) { delete guard.data(); });
+    const auto guard = std::make_shared<QPointer<Part>>(part);
+    holder = QSharedPointer<Part>(part, [guard](Part*) { delete guard->data(); });
+    QObject::connect(part, &QObject::destroyed, context, [guard, &holder] {
+        guard->clear();
+        holder.clear();
+    });
 }
 
 template <class Part>
@@ -69,8 +80,7 @@ BF::Result CPhysicsSoftClothPlugin::CreatePart(QSharedPointer<Part>& part, Argum
         if (!created) {
             return BF::Results::ResourceFailure;
         }
-        part = Own(created);
-        connect(created, &QObject::destroyed, this, [&part] { part.clear(); });
+        Own(part, created, this);
     }
     return BF::Results::Success;
 }
@@ -91,6 +101,7 @@ BF::Result CPhysicsSoftClothPlugin::CreateParts(const QString& pluginPath, const
     QWidget* mainWindow = host->GetSceneService()->GetMainWindow();
     create(m_materialTable, mainWindow, this);
     create(m_materialDlg, mainWindow, this);
+    VisitPart(m_materialDlg, [this](auto& dialog) { dialog.SetMaterialTable(m_materialTable); });
     create(m_presetSection, this);
     create(m_propertySection, this);
     create(m_collisionSection, this);

@@ -2,10 +2,7 @@
 
 #include "plugin/PanelForm.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
-#include "plugin/services/EditService.h"
-#include "plugin/services/MoviraInterface.h"
-#include "plugin/services/SceneService.h"
-#include "sections/SectionState.h"
+#include "sections/SectionRecord.h"
 #include "sections/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QDoubleSpinBoxEx.h>
@@ -57,24 +54,18 @@ void CSoftClothCollisionSection::ConnectWidgets()
     using Section = CSoftClothCollisionSection;
     ConnectClicked(m_ui.collideWithRigidCheckBox, this, &Section::OnClickCollideWithRigidCheckBox);
     ConnectClicked(m_ui.selfCollisionCheckBox, this, &Section::OnClickSelfCollisionCheckBox);
-    ConnectSpinBox(m_ui.rigidMarginSpinBox, this, &Section::OnClickCollideWithRigidMarginDoubleSpinBox);
-    ConnectSpinBox(m_ui.selfMarginSpinBox, this, &Section::OnClickSelfCollisionMarginDoubleSpinBox);
+    ConnectEdited(m_ui.rigidMarginSpinBox, this,
+                  [this](double value) { OnClickCollideWithRigidMarginDoubleSpinBox(value); });
+    ConnectEdited(m_ui.selfMarginSpinBox, this,
+                  [this](double value) { OnClickSelfCollisionMarginDoubleSpinBox(value); });
 }
 
 BF::Result CSoftClothCollisionSection::UpdateUi()
 {
-    if (!m_host) {
-        return BF::Results::InvalidArgument;
-    }
-    const SoftClothSelection& selection = m_plugin->Selection();
-    const BF::Result shown = CheckSoftClothShown(selection, *m_host, m_ui.sectionGroupBox);
-    if (!shown.IsSuccess()) {
-        return shown;
-    }
     SoftClothCollisionData record;
-    const BF::Result read =
-        m_host->GetSceneService()->GetSoftClothCollision(selection.object, selection.mesh, selection.material, record);
-    if (read.IsFailure()) {
+    const BF::Result read = ReadShownRecord(m_plugin->Selection(), m_host, m_ui.sectionGroupBox,
+                                            &CSceneService::GetSoftClothCollision, record);
+    if (!read.IsSuccess()) {
         return read;
     }
     SetChecked(m_ui.collideWithRigidCheckBox, record.collideWithRigid);
@@ -133,9 +124,7 @@ void CSoftClothCollisionSection::WriteField(ESoftClothCollisionType type, Value 
 
 void CSoftClothCollisionSection::Write(ESoftClothCollisionType type, const SoftClothCollisionData& record)
 {
-    const SoftClothSelection& selection = m_plugin->Selection();
-    m_host->GetEditService()->SetSoftClothCollision(selection.object, selection.mesh, selection.material, type, record,
-                                                    selection.affectAllMaterials);
+    WriteRecord(m_plugin->Selection(), *m_host, &CEditService::SetSoftClothCollision, type, record);
 }
 
 void CSoftClothCollisionSection::LoadProfile(QSettings& profile)

@@ -3,15 +3,27 @@
 #include "ui/SignalBlocker.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QWidget>
 
+#include <type_traits>
+
 /// Small operations on a form's widgets. A widget that the form lacks is null and passed over everywhere.
+///
+/// A box is one of the host's four: QSpinBoxEx, QDoubleSpinBoxEx, QComboSpinBox or QComboDoubleSpinBox.
 namespace MV {
 
 inline void EnableWidget(QWidget* widget, bool enable)
 {
     if (widget) {
         widget->setEnabled(enable);
+    }
+}
+
+inline void SetText(QLabel* label, const QString& text)
+{
+    if (label) {
+        label->setText(text);
     }
 }
 
@@ -27,21 +39,36 @@ inline bool IsChecked(const QAbstractButton* button)
     return button && button->isChecked();
 }
 
-/// Shows \p value in a spin box without a signal of it.
-template <class SpinBox, class Value>
-void ShowValue(SpinBox* box, Value value)
+/// Whether a box is one of the combo spin boxes, which bear other names for the same things.
+template <class Box, class = void>
+inline constexpr bool IsComboBox = false;
+template <class Box>
+inline constexpr bool IsComboBox<Box, std::void_t<decltype(&Box::EditFinished)>> = true;
+
+/// What a box holds; 0 for a missing one.
+template <class Box>
+auto ValueOf(const Box* box)
 {
-    if (box) {
-        const CSignalBlocker silent{box};
-        box->setValue(value);
+    if constexpr (IsComboBox<Box>) {
+        return box ? box->Value() : decltype(box->Value()){};
+    } else {
+        return box ? box->value() : decltype(box->value()){};
     }
 }
 
-/// What a spin box holds; 0 for a missing one.
-template <class SpinBox>
-auto ValueOf(const SpinBox* box) -> decltype(box->value())
+/// Shows \p value in a box without a signal of it.
+template <class Box>
+void ShowValue(Box* box, decltype(ValueOf(static_cast<const Box*>(nullptr))) value)
 {
-    return box ? box->value() : decltype(box->value()){};
+    if (!box) {
+        return;
+    }
+    const CSignalBlocker silent{box};
+    if constexpr (IsComboBox<Box>) {
+        box->SetValue(value);
+    } else {
+        box->setValue(value);
+    }
 }
 
 /// Calls \p handler of \p section when the user clicks \p button.
@@ -53,14 +80,18 @@ void ConnectClicked(QAbstractButton* button, Section* section, void (Section::*h
     }
 }
 
-/// Calls \p handler of \p section with the box's value each time the user commits an edit.
-/// \param box  a QSpinBoxEx or QDoubleSpinBoxEx
-template <class SpinBox, class Section, class Value>
-void ConnectSpinBox(SpinBox* box, Section* section, void (Section::*handler)(Value))
+/// Calls \p handler with the box's value each time the user commits an edit, while \p section lives.
+template <class Box, class Handler>
+void ConnectEdited(Box* box, const QObject* section, Handler handler)
 {
-    if (box) {
-        QObject::connect(box, &SpinBox::RecordEditingValue, section,
-                         [box, section, handler] { (section->*handler)(box->value()); });
+    if (!box) {
+        return;
+    }
+    const auto pass = [box, handler] { handler(ValueOf(box)); };
+    if constexpr (IsComboBox<Box>) {
+        QObject::connect(box, &Box::EditFinished, section, pass);
+    } else {
+        QObject::connect(box, &Box::RecordEditingValue, section, pass);
     }
 }
 

@@ -95,13 +95,27 @@ ObjectState* StateIn(Object& owner, const SceneEdit::ObjectChange& /*change*/)
     return &owner.state;
 }
 
+/// The owner that \p change can be applied to; null when it is unknown or deleted.
+template <class Change>
+Object* ChangeableOwner(const ObjectList& objects, const Change& change)
+{
+    return IfExists(OwnerOf(objects, change));
+}
+
+/// A deleted object can still be brought back.
+Object* ChangeableOwner(const ObjectList& objects, const SceneEdit::ObjectChange& change)
+{
+    Object* const owner = OwnerOf(objects, change);
+    return change.after.exists ? owner : IfExists(owner);
+}
+
 /// Takes the before-states from the scene and leaves out changes of what does not exist there.
 template <class Change>
 void TakeBefore(std::vector<Change>& changes, const ObjectList& objects)
 {
     std::vector<Change> known;
     for (Change& change : changes) {
-        Object* const owner = IfExists(OwnerOf(objects, change));
+        Object* const owner = ChangeableOwner(objects, change);
         if (const auto* state = owner ? StateIn(*owner, change) : nullptr) {
             change.before = *state;
             known.push_back(std::move(change));
@@ -302,7 +316,8 @@ void Scene::Apply(const SceneEdit& edit, bool forward)
     ApplyAll(edit.materials, forward, m_objects);
     ApplyAll(edit.objects, forward, m_objects);
     m_applied.objectsChanged |= ChangesExistence(edit);
-    for (BF::CHandle* handle : ObjectsOf(edit)) {
+    const QVector<BF::CHandle*> touched = ObjectsOf(edit);
+    for (BF::CHandle* handle : touched) {
         if (!m_applied.objects.contains(handle)) {
             m_applied.objects.append(handle);
         }

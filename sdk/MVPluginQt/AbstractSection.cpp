@@ -1,9 +1,36 @@
 #include "MVPluginQt/AbstractSection.h"
 
 #include <QGroupBox>
+#include <QIcon>
+#include <QPainter>
+#include <QPixmap>
+#include <QPolygonF>
 #include <QPushButton>
 
 namespace MV {
+
+namespace {
+
+/// A triangle in the button's text colour: to the right for folded, downwards for unfolded.
+QIcon ExpandArrow(const QPushButton& button, bool expanded)
+{
+    const int size = button.iconSize().height();
+    const qreal ratio = button.devicePixelRatioF();
+    QPixmap pixmap(QSize(size, size) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(button.palette().color(QPalette::ButtonText));
+    painter.translate(size / 2.0, size / 2.0);
+    painter.rotate(expanded ? 90.0 : 0.0);
+    painter.scale(size / 16.0, size / 16.0);
+    painter.drawPolygon(QPolygonF(QVector<QPointF>{{-2.5, -5.0}, {4.0, 0.0}, {-2.5, 5.0}}));
+    return QIcon(pixmap);
+}
+
+} // namespace
 
 CSectionInterface::~CSectionInterface() = default;
 
@@ -44,7 +71,7 @@ void CAbstractSection::SetSectionWidgets(QPushButton* expandButton, QGroupBox* g
     m_groupBox = groupBox;
     if (expandButton) {
         expandButton->setCheckable(true);
-        m_clicked = QObject::connect(expandButton, &QPushButton::clicked,
+        m_clicked = QObject::connect(expandButton, &QPushButton::clicked, expandButton,
                                      [this](bool checked) { SetSectionExpandState(checked); });
     }
     ShowExpandState();
@@ -54,6 +81,7 @@ void CAbstractSection::ShowExpandState()
 {
     if (m_expandButton) {
         m_expandButton->setChecked(m_expanded);
+        m_expandButton->setIcon(ExpandArrow(*m_expandButton, m_expanded));
     }
     if (m_groupBox) {
         m_groupBox->setVisible(m_expanded);

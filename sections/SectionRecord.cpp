@@ -1,8 +1,5 @@
-#include "sections/SectionState.h"
+#include "sections/SectionRecord.h"
 
-#include "plugin/SoftClothSelection.h"
-#include "plugin/services/MoviraInterface.h"
-#include "plugin/services/SceneService.h"
 #include "sections/WidgetAccess.h"
 
 #include <QGroupBox>

@@ -1,0 +1,91 @@
+#include "host/workbench/MainWindow.h"
+#include "host/workbench/Tour.h"
+#include "host/workbench/WorkbenchStyle.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QHash>
+
+namespace {
+
+struct Options
+{
+    QString model;
+    QString plugin;
+    QString tourFolder;
+    MV::ECompatibleApp app = MV::ECompatibleApp::FamilyA;
+};
+
+QString BesideProgram(const QString& relative)
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1Char('/') + relative);
+}
+
+/// Reads the command line; ends the program with a message when it is wrong.
+Options ReadOptions(const QApplication& application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QCoreApplication::translate("main", "A stand-in host for the soft cloth physics panel."));
+    parser.addHelpOption();
+    parser.addPositionalArgument(
+        QStringLiteral("MODEL"),
+        QCoreApplication::translate("main", "Model or scene file; the demo character without."),
+        QStringLiteral("[MODEL]"));
+    const QCommandLineOption appKind(QStringLiteral("app-kind"),
+                                     QCoreApplication::translate("main", "Application family: a, b or none."),
+                                     QStringLiteral("kind"), QStringLiteral("a"));
+    const QCommandLineOption plugin(
+        QStringLiteral("plugin"), QCoreApplication::translate("main", "The plug-in library to load."),
+        QStringLiteral("path"), BesideProgram(QStringLiteral("../lib/" SOFTCLOTH_PLUGIN_NAME)));
+    const QCommandLineOption tour(
+        QStringLiteral("tour"),
+        QCoreApplication::translate("main", "Run the main job unattended and write pictures into this folder."),
+        QStringLiteral("folder"));
+    parser.addOptions({appKind, plugin, tour});
+    parser.process(application);
+
+    const QHash<QString, MV::ECompatibleApp> kinds{{QStringLiteral("a"), MV::ECompatibleApp::FamilyA},
+                                                   {QStringLiteral("b"), MV::ECompatibleApp::FamilyB},
+                                                   {QStringLiteral("none"), MV::ECompatibleApp::None}};
+    if (!kinds.contains(parser.value(appKind)) || parser.positionalArguments().size() > 1) {
+        parser.showHelp(2);
+    }
+    Options options;
+    options.model =
+        parser.positionalArguments().value(0, BesideProgram(QStringLiteral("../data/demo/" SOFTCLOTH_DEMO)));
+    options.plugin = parser.value(plugin);
+    options.tourFolder = parser.value(tour);
+    options.app = kinds.value(parser.value(appKind));
+    return options;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("SoftClothPanel"));
+    QCoreApplication::setApplicationName(QStringLiteral("softcloth-workbench"));
+    QGuiApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Soft Cloth Workbench"));
+    Host::ApplyWorkbenchStyle(application);
+    const Options options = ReadOptions(application);
+    const bool isTour = !options.tourFolder.isEmpty();
+
+    Host::MainWindow window;
+    if (isTour) {
+        window.SetUnattended();
+    }
+    window.Application().SetDataFolder(BesideProgram(QStringLiteral("../data")));
+    window.show();
+    bool ready = window.StartPlugin(options.plugin, options.app);
+    const bool isScene = options.model.endsWith(QLatin1String(".clothscene"), Qt::CaseInsensitive);
+    ready = (isScene ? window.OpenScene(options.model) : window.ImportModel(options.model)) && ready;
+    if (isTour) {
+        return ready && Host::RunTour(window, options.tourFolder) ? 0 : 1;
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "preset/SoftClothMaterialTableUiComponent.h"
+
+#include <MVPluginQt/ArrayList.h>
+#include <MVPluginQt/CoreBase.h>
+#include <MVPluginQt/Handle.h>
+#include <MVPluginQt/PluginDialog.h>
+#include <MVPluginQt/Result.h>
+
+#include <QVector>
+
+class QCheckBox;
+
+namespace MV {
+
+class CMoviraInterface;
+class CPhysicsSoftClothPlugin;
+
+/// The modal table of all materials of an object, each beside the mesh that carries it, in which the user ticks those
+/// that take part in the soft cloth. Confirming writes every row to the host, cancelling writes nothing.
+class CSoftClothMaterialTable : public CPluginDialog, public CCoreBase
+{
+    Q_OBJECT
+
+public:
+    CSoftClothMaterialTable(QWidget* parent, CPhysicsSoftClothPlugin* plugin);
+    ~CSoftClothMaterialTable() override;
+
+    /// Builds the form.
+    /// \return 0; 0x80000003 for a null \p host, and nothing is done; or the form's failure
+    BF::Result Init(const QString& pluginPath, const QString& resourceBase, CMoviraInterface* host);
+
+    /// Sets what the rows stand for. Both lists hold ids as handles and are of equal length: the mesh at an index
+    /// carries the material at that index. The rows themselves change with the next FillTable().
+    void SetMaterialRows(const BF::CArrayList<BF::CHandle*>& materials, const BF::CArrayList<BF::CHandle*>& meshes);
+
+    /// Makes the rows anew: names and ticks as the host tells them.
+    /// \return 0; or 0x80000002 when a row could not be made, the rows before it stay
+    BF::Result FillTable();
+
+    /// Lets the user confirm as long as at least one row is ticked.
+    void UpdateConfirmEnabled();
+
+private Q_SLOTS:
+    void OnClickCancelPushButton();
+    void OnClickConfirmPushButton();
+
+private:
+    struct Row;
+
+    void SetUpTable();
+    QVector<Row> ReadRows() const;
+    bool MakeRow(int row, const Row& content);
+
+    [[maybe_unused]] CPhysicsSoftClothPlugin* m_plugin;
+    CMoviraInterface* m_host = nullptr;
+    CSoftClothMaterialTableUiComponent m_ui;
+    BF::CArrayList<BF::CHandle*> m_materials;
+    BF::CArrayList<BF::CHandle*> m_meshes;
+    QVector<QCheckBox*> m_checkBoxes; ///< One per row.
+};
+
+} // namespace MV

@@ -1,0 +1,12 @@
+#include "tests/unit/plugin/fakes/FakeParts.h"
+
+#include "plugin/PhysicsSoftClothPlugin.h"
+
+namespace MV {
+
+FakeSection::FakeSection(const char* name, CPhysicsSoftClothPlugin* plugin)
+    : FakePart(name, plugin)
+{
+}
+
+} // namespace MV

@@ -1,0 +1,3 @@
+#pragma once
+
+#include "tests/unit/plugin/fakes/FakeParts.h"
