@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QStringList>
 
+#include <assimp/BaseImporter.h>
 #include <assimp/Importer.hpp>
 #include <assimp/ProgressHandler.hpp>
 #include <assimp/config.h>
@@ -42,6 +43,17 @@ constexpr std::array<unsigned, 4> processSteps{
 constexpr int unwantedComponents = aiComponent_TANGENTS_AND_BITANGENTS | aiComponent_COLORS | aiComponent_BONEWEIGHTS |
                                    aiComponent_ANIMATIONS | aiComponent_LIGHTS | aiComponent_CAMERAS |
                                    aiComponent_TEXCOORDSn(1) | aiComponent_TEXCOORDSn(2) | aiComponent_TEXCOORDSn(3);
+
+/// By suffix the readers that crash or hang on files that were cut off. Losing a scene is worse than not reading them.
+constexpr std::array unreliableReaders{"cob", "lws", "md5mesh", "mdl", "ogex", "smd"};
+
+void RemoveUnreliableReaders(Assimp::Importer& importer)
+{
+    for (const char* suffix : unreliableReaders) {
+        const std::unique_ptr<Assimp::BaseImporter> reader(importer.GetImporter(suffix));
+        importer.UnregisterLoader(reader.get());
+    }
+}
 
 /// Passes the progress on, never backwards, and remembers that somebody cancelled.
 class ProgressReport
@@ -142,6 +154,7 @@ ImportResult Import(const QFileInfo& file, ProgressReport& report)
 {
     const QString path = file.filePath();
     Assimp::Importer importer;
+    RemoveUnreliableReaders(importer);
     importer.SetIOHandler(std::make_unique<ModelFiles>().release());
     importer.SetProgressHandler(std::make_unique<ReadProgress>(report).release());
     importer.SetPropertyInteger(AI_CONFIG_PP_RVC_FLAGS, unwantedComponents);
@@ -210,8 +223,10 @@ ImportResult ImportModel(const QString& path, const ImportProgress& progress)
 
 QStringList ImportableSuffixes()
 {
+    Assimp::Importer importer;
+    RemoveUnreliableReaders(importer);
     aiString list;
-    Assimp::Importer().GetExtensionList(list);
+    importer.GetExtensionList(list);
     QStringList suffixes;
     const QStringList patterns = QString::fromUtf8(list.C_Str()).split(QLatin1Char(';'), Qt::SkipEmptyParts);
     for (const QString& pattern : patterns) {

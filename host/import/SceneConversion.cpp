@@ -31,7 +31,9 @@ void CollectMeshNodes(const aiNode& node, const aiMatrix4x4& parent, std::vector
         meshNodes.push_back({&node, transform});
     }
     for (unsigned i = 0; i < node.mNumChildren; ++i) {
-        CollectMeshNodes(*node.mChildren[i], transform, meshNodes);
+        if (node.mChildren[i]) { // the reader of RAW files leaves gaps
+            CollectMeshNodes(*node.mChildren[i], transform, meshNodes);
+        }
     }
 }
 

@@ -1,8 +1,8 @@
 #include "host/import/ModelImport.h"
 
-#include "tests/support/TestCase.h"
 #include "tests/unit/scene/Files.h"
 #include "tests/unit/scene/GeometryChecks.h"
+#include "tests/unit/scene/ImportTestCase.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,7 +17,7 @@ using Host::Mesh;
 using Host::Object;
 using MV::ETextureChannel;
 
-class TestModelImport : public TestCase
+class TestModelImport : public ImportTestCase
 {
     Q_OBJECT
 
@@ -38,52 +38,10 @@ private Q_SLOTS:
     void infiniteCoordinatesBecomeFinite();
     void diffuseColorComesAlong();
 
-    void embeddedTexturesAreKept_data();
-    void embeddedTexturesAreKept();
-    void rawTexelsBecomePng();
-    void linkedTextureIsFound_data();
-    void linkedTextureIsFound();
-    void linkedTextureBesideTheModelIsTheLastResort();
-    void missingTextureKeepsItsPath_data();
-    void missingTextureKeepsItsPath();
-    void opacityTextureComesAlong();
-
     void namesAreUnicode();
-    void progressGrowsToTheEnd();
-    void cancelLeavesNothing();
-    void impossibleFileIsRefused_data();
-    void impossibleFileIsRefused();
-    void truncatedModelsAreRefusedOrSound_data();
-    void truncatedModelsAreRefusedOrSound();
-    void suffixesAreSortedAndComplete();
-
-private:
-    void SetUp() override;
-
-    QString PathOf(const QString& name) const { return m_folder->filePath(name); }
-    ImportResult ImportText(const QByteArray& obj, const QByteArray& mtl = {}) const;
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 namespace {
-
-const QByteArray quad = "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\nvt 0 0\nvt 1 0\nvt 1 1\nvt 0 1\n";
-
-QString SampleModel(const QString& name)
-{
-    return QDir(QStringLiteral(SOFTCLOTH_TEST_MODELS)).filePath(name);
-}
-
-/// Imports one of the sample models; it has to be there and sound.
-Object Sample(const char* name)
-{
-    const ImportResult result = ImportModel(SampleModel(QString::fromLatin1(name)));
-    if (!result.object) {
-        qFatal("%s: %s", name, qPrintable(result.error));
-    }
-    return *result.object;
-}
 
 const Mesh* MeshCalled(const Object& object, const char* name)
 {
@@ -110,27 +68,7 @@ Bounds BoundsOf(const Mesh& mesh)
     return bounds;
 }
 
-/// An OBJ file with one textured square.
-QByteArray SquareObj()
-{
-    return "mtllib m.mtl\n" + quad + "usemtl Cloth\nf 1/1 2/2 3/3\nf 1/1 3/3 4/4\n";
-}
-
 } // namespace
-
-void TestModelImport::SetUp()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-}
-
-ImportResult TestModelImport::ImportText(const QByteArray& obj, const QByteArray& mtl) const
-{
-    if (!Files::Write(PathOf(QStringLiteral("m.obj")), obj) || !Files::Write(PathOf(QStringLiteral("m.mtl")), mtl)) {
-        qFatal("cannot write the model");
-    }
-    return ImportModel(PathOf(QStringLiteral("m.obj")));
-}
 
 void TestModelImport::realModelsComeOutSound_data()
 {
@@ -197,7 +135,7 @@ void TestModelImport::spiderHasItsMaterialsAndTextures()
                                               {QStringLiteral("HLeibTex"), QStringLiteral("SpiderTex.jpg")},
                                               {QStringLiteral("BeinTex"), QStringLiteral("drkwood2.jpg")},
                                               {QStringLiteral("Augentex"), QStringLiteral("engineflare1.jpg")}};
-    const Object spider = Sample("OBJ/spider.obj");
+    const Object spider = Import("OBJ/spider.obj");
     std::map<QString, QString> found;
     for (const auto& material : spider.materials) {
         const auto& texture = material.textures.at(ETextureChannel::Diffuse);
@@ -214,7 +152,7 @@ void TestModelImport::spiderHasItsMaterialsAndTextures()
 
 void TestModelImport::transformsAreBakedIn()
 {
-    const Bounds bounds = BoundsOf(Sample("Collada/duck.dae").meshes[0]);
+    const Bounds bounds = BoundsOf(Import("Collada/duck.dae").meshes[0]);
     // In the file the duck is a hundred times as large, and its node shrinks it.
     QVERIFY(bounds.high.y() > 1.63F && bounds.high.y() < 1.65F);
     QVERIFY(bounds.low.y() > 0.09F && bounds.low.y() < 0.11F);
@@ -222,7 +160,7 @@ void TestModelImport::transformsAreBakedIn()
 
 void TestModelImport::mirroredNodesKeepTheirOutside()
 {
-    const Object cubes = Sample("FBX/cubes_with_mirroring_and_pivot.fbx");
+    const Object cubes = Import("FBX/cubes_with_mirroring_and_pivot.fbx");
     QCOMPARE(cubes.meshes.size(), std::size_t{4});
     for (const Mesh& mesh : cubes.meshes) {
         QCOMPARE(GeometryChecks::FacingShare(mesh), 1.0);
@@ -237,7 +175,7 @@ void TestModelImport::mirroredNodesKeepTheirOutside()
 
 void TestModelImport::repeatedMeshesAreSeparateMeshes()
 {
-    const Object teapots = Sample("Collada/teapot_instancenodes.DAE");
+    const Object teapots = Import("Collada/teapot_instancenodes.DAE");
     QCOMPARE(GeometryChecks::Faults(teapots), QString());
     QVERIFY(teapots.meshes.size() > 1);
     for (const Mesh& mesh : teapots.meshes) {
@@ -304,7 +242,7 @@ void TestModelImport::smoothNormalsCrossTheSeamsOfTheTexture()
 
 void TestModelImport::pointsAndLinesAreLeftOut()
 {
-    const ImportResult result = ImportText(quad + "o Thing\nf 1 2 3\nl 1 3\np 4\n");
+    const ImportResult result = ImportText(squareVertices + "o Thing\nf 1 2 3\nl 1 3\np 4\n");
     QVERIFY2(result.object, qPrintable(result.error));
     QCOMPARE(GeometryChecks::Faults(*result.object), QString());
     QCOMPARE(result.object->meshes.size(), std::size_t{1});
@@ -313,7 +251,7 @@ void TestModelImport::pointsAndLinesAreLeftOut()
 
 void TestModelImport::slotsOfTheSameMaterialAreOne()
 {
-    const ImportResult result = ImportText("mtllib m.mtl\no Flag\n" + quad +
+    const ImportResult result = ImportText("mtllib m.mtl\no Flag\n" + squareVertices +
                                                "usemtl Red\nf 1/1 2/2 3/3\nusemtl Blue\nf 1/1 3/3 4/4\n"
                                                "usemtl Red\nf 3/3 2/2 1/1\n",
                                            "newmtl Red\nKd 1 0 0\nnewmtl Blue\nKd 0 0 1\nnewmtl Green\nKd 0 1 0\n");
@@ -332,14 +270,14 @@ void TestModelImport::slotsOfTheSameMaterialAreOne()
 
 void TestModelImport::unnamedThingsAreNumbered()
 {
-    const Object cube = Sample("PLY/cube_uv.ply");
+    const Object cube = Import("PLY/cube_uv.ply");
     QCOMPARE(cube.meshes[0].name, QStringLiteral("Mesh 1"));
     QCOMPARE(cube.materials[0].name, QStringLiteral("Material 1"));
 }
 
 void TestModelImport::duplicateNamesAreKept()
 {
-    const Object cubes = Sample("FBX/cubes_with_mirroring_and_pivot.fbx");
+    const Object cubes = Import("FBX/cubes_with_mirroring_and_pivot.fbx");
     const auto called = std::count_if(cubes.meshes.begin(), cubes.meshes.end(),
                                       [](const Mesh& mesh) { return mesh.name == QStringLiteral("Cube1"); });
     QCOMPARE(called, 2);
@@ -347,7 +285,7 @@ void TestModelImport::duplicateNamesAreKept()
 
 void TestModelImport::infiniteCoordinatesBecomeFinite()
 {
-    QCOMPARE(GeometryChecks::Faults(Sample("glTF2/BoxWithInfinites-glTF-Binary/BoxWithInfinites.glb")), QString());
+    QCOMPARE(GeometryChecks::Faults(Import("glTF2/BoxWithInfinites-glTF-Binary/BoxWithInfinites.glb")), QString());
 }
 
 void TestModelImport::diffuseColorComesAlong()
@@ -356,116 +294,6 @@ void TestModelImport::diffuseColorComesAlong()
     QVERIFY2(result.object, qPrintable(result.error));
     QCOMPARE(result.object->materials[0].diffuse.rgba(), QColor::fromRgbF(0.2, 0.4, 1.0, 0.6).rgba());
     QVERIFY(result.object->materials[0].textures.empty());
-}
-
-void TestModelImport::embeddedTexturesAreKept_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("FBX") << QStringLiteral("FBX/embedded_ascii/box.FBX") << QSize(512, 512);
-    QTest::newRow("FBX in pieces") << QStringLiteral("FBX/embedded_ascii/box_embedded_texture_fragmented.fbx")
-                                   << QSize(1024, 1024);
-    QTest::newRow("glTF binary") << QStringLiteral("glTF2/BoxTextured-glTF-Binary/BoxTextured.glb") << QSize(211, 211);
-    QTest::newRow("glTF data URI") << QStringLiteral("glTF2/BoxTextured-glTF-Embedded/BoxTextured.gltf")
-                                   << QSize(211, 211);
-    QTest::newRow("Collada archive") << QStringLiteral("Collada/duck.zae") << QSize(512, 512);
-    QTest::newRow("Blender") << QStringLiteral("BLEND/TexturedPlane_ImageUvPacked_248.blend") << QSize(512, 512);
-}
-
-void TestModelImport::embeddedTexturesAreKept()
-{
-    QFETCH(QString, file);
-    const ImportResult result = ImportModel(SampleModel(file));
-    QVERIFY2(result.object, qPrintable(result.error));
-    const auto& texture = result.object->materials[0].textures.at(ETextureChannel::Diffuse);
-    QVERIFY(texture.filePath.isEmpty());
-    QTEST(QImage::fromData(texture.embedded).size(), "size");
-}
-
-void TestModelImport::rawTexelsBecomePng()
-{
-    const Object model = Sample("MDL/MDL (HL1)/alpha_test.mdl");
-    const QByteArray& encoded = model.materials[0].textures.at(ETextureChannel::Diffuse).embedded;
-    QVERIFY(encoded.startsWith("\x89PNG"));
-    const QImage image = QImage::fromData(encoded);
-    QCOMPARE(image.size(), QSize(512, 512));
-    QSet<QRgb> colors;
-    for (int i = 0; i < 512; ++i) {
-        colors.insert(image.pixel(i, i));
-    }
-    QVERIFY(colors.size() > 1);
-}
-
-void TestModelImport::linkedTextureIsFound_data()
-{
-    QTest::addColumn<QByteArray>("asked");
-    QTest::newRow("as it is") << QByteArray("maps/Silk Ü.png");
-    QTest::newRow("backslashes") << QByteArray("maps\\Silk Ü.png");
-    QTest::newRow("other case of the file name") << QByteArray("maps/SILK ü.PNG");
-    QTest::newRow("through another folder") << QByteArray("./maps/../maps/Silk Ü.png");
-    QTest::newRow("percent escapes") << QByteArray("maps/Silk%20%C3%9C.png");
-}
-
-void TestModelImport::linkedTextureIsFound()
-{
-    QFETCH(QByteArray, asked);
-    QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("maps")));
-    const QString path = PathOf(QStringLiteral("maps/Silk Ü.png"));
-    QVERIFY(Files::Write(path, "image"));
-    const ImportResult result = ImportText(SquareObj(), "newmtl Cloth\nKd 1 1 1\nmap_Kd " + asked + "\n");
-    QVERIFY2(result.object, qPrintable(result.error));
-    const auto& texture = result.object->materials[0].textures.at(ETextureChannel::Diffuse);
-    QCOMPARE(texture.filePath, path);
-    QVERIFY(texture.embedded.isEmpty());
-}
-
-void TestModelImport::linkedTextureBesideTheModelIsTheLastResort()
-{
-    // The file names a folder of its author.
-    QDir folder(m_folder->path());
-    QVERIFY(QFile::copy(SampleModel(QStringLiteral("FBX/spider.fbx")), PathOf(QStringLiteral("spider.fbx"))));
-    QVERIFY(Files::Write(PathOf(QStringLiteral("DRKWOOD2.JPG")), "image"));
-    const ImportResult result = ImportModel(PathOf(QStringLiteral("spider.fbx")));
-    QVERIFY2(result.object, qPrintable(result.error));
-    QHash<QString, QString> paths;
-    for (const auto& material : result.object->materials) {
-        paths[material.name] = material.textures.at(ETextureChannel::Diffuse).filePath;
-    }
-    QCOMPARE(paths.value(QStringLiteral("BeinTex")), PathOf(QStringLiteral("DRKWOOD2.JPG")));
-    QVERIFY2(paths.value(QStringLiteral("Skin")).endsWith(QStringLiteral("/models/OBJ/wal67ar_small.jpg")),
-             qPrintable(paths.value(QStringLiteral("Skin"))));
-}
-
-void TestModelImport::missingTextureKeepsItsPath_data()
-{
-    QTest::addColumn<QByteArray>("asked");
-    QTest::addColumn<QString>("path");
-    QTest::newRow("relative") << QByteArray("maps/silk.png") << QStringLiteral("%1/maps/silk.png");
-    QTest::newRow("absolute") << QByteArray("/no/such/silk.png") << QStringLiteral("/no/such/silk.png");
-    QTest::newRow("on a drive") << QByteArray("C:\\maps\\silk.png") << QStringLiteral("C:/maps/silk.png");
-    QTest::newRow("folder") << QByteArray("folder.png") << QStringLiteral("%1/folder.png");
-}
-
-void TestModelImport::missingTextureKeepsItsPath()
-{
-    QFETCH(QByteArray, asked);
-    QFETCH(QString, path);
-    QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("folder.png")));
-    const ImportResult result = ImportText(SquareObj(), "newmtl Cloth\nKd 1 1 1\nmap_Kd " + asked + "\n");
-    QVERIFY2(result.object, qPrintable(result.error));
-    QCOMPARE(result.object->materials[0].textures.at(ETextureChannel::Diffuse).filePath,
-             path.replace(QStringLiteral("%1"), m_folder->path()));
-}
-
-void TestModelImport::opacityTextureComesAlong()
-{
-    QVERIFY(Files::Write(PathOf(QStringLiteral("a.png")), "image"));
-    const ImportResult result =
-        ImportText(SquareObj(), "newmtl Cloth\nKd 1 1 1\nmap_Kd a.png\nmap_d missing.png\nmap_bump a.png\n");
-    QVERIFY2(result.object, qPrintable(result.error));
-    const auto& textures = result.object->materials[0].textures;
-    QCOMPARE(textures.size(), std::size_t{2});
-    QCOMPARE(textures.at(ETextureChannel::Opacity).filePath, PathOf(QStringLiteral("missing.png")));
 }
 
 void TestModelImport::namesAreUnicode()
@@ -485,117 +313,6 @@ void TestModelImport::namesAreUnicode()
     QCOMPARE(result.object->materials[0].name, QStringLiteral("Seié 絹"));
     QCOMPARE(result.object->materials[0].textures.at(ETextureChannel::Diffuse).filePath,
              PathOf(folder + QStringLiteral("/絹.png")));
-}
-
-void TestModelImport::progressGrowsToTheEnd()
-{
-    std::vector<double> told;
-    const ImportResult result = ImportModel(SampleModel(QStringLiteral("OBJ/spider.obj")), [&](double done) {
-        told.push_back(done);
-        return true;
-    });
-    QVERIFY2(result.object, qPrintable(result.error));
-    QVERIFY(told.size() > 5);
-    QVERIFY(std::is_sorted(told.begin(), told.end()));
-    QVERIFY(told.front() >= 0.0);
-    QCOMPARE(told.back(), 1.0);
-}
-
-void TestModelImport::cancelLeavesNothing()
-{
-    const QString path = SampleModel(QStringLiteral("OBJ/spider.obj"));
-    int whole = 0;
-    QVERIFY(ImportModel(path, [&](double) { return ++whole > 0; }).object);
-    for (int last = 1; last <= whole; ++last) {
-        int calls = 0;
-        const ImportResult result = ImportModel(path, [&](double) { return ++calls < last; });
-        QVERIFY(result.cancelled);
-        QVERIFY(!result.object);
-        QVERIFY(result.error.isEmpty());
-        QCOMPARE(calls, last); // nobody is asked again
-    }
-}
-
-void TestModelImport::impossibleFileIsRefused_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("complaint");
-    const QByteArray garbage = QByteArray::fromHex("00ff10807f456789abcdef").repeated(100);
-    QTest::newRow("missing") << QStringLiteral("none.obj") << QByteArray() << QStringLiteral("There is no model file");
-    QTest::newRow("no name") << QString() << QByteArray() << QStringLiteral("There is no model file");
-    QTest::newRow("folder") << QStringLiteral("folder.obj") << QByteArray() << QStringLiteral("is not a file");
-    QTest::newRow("empty") << QStringLiteral("empty.fbx") << QByteArray("") << QStringLiteral("is empty");
-    QTest::newRow("unknown suffix") << QStringLiteral("m.xyz") << garbage << QStringLiteral("could not be read");
-    QTest::newRow("no suffix") << QStringLiteral("model") << garbage << QStringLiteral("could not be read");
-    for (const char* suffix : {"fbx", "glb", "gltf", "dae", "ply", "3ds", "stl", "blend"}) {
-        QTest::addRow("garbage %s", suffix)
-            << QStringLiteral("m.") + QLatin1String(suffix) << garbage << QStringLiteral("could not be read");
-    }
-    QTest::newRow("garbage obj") << QStringLiteral("m.obj") << garbage << QStringLiteral("The model file");
-    QTest::newRow("index out of range") << QStringLiteral("m.obj") << quad + "f 1 2 900\n"
-                                        << QStringLiteral("could not be read");
-    QTest::newRow("points only") << QStringLiteral("m.obj") << quad + "p 1 2 3\n"
-                                 << QStringLiteral("holds no surfaces");
-    QTest::newRow("triangles without area only") << QStringLiteral("m.obj") << quad + "v 0 0 0\nf 1 5 2\nf 1 1 2\n"
-                                                 << QStringLiteral("holds no surfaces");
-}
-
-void TestModelImport::impossibleFileIsRefused()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, content);
-    QFETCH(QString, complaint);
-    QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("folder.obj")));
-    const QString path = name.isEmpty() ? QString() : PathOf(name);
-    if (!content.isNull()) {
-        QVERIFY(Files::Write(path, content));
-    }
-    const ImportResult result = ImportModel(path);
-    QVERIFY(!result.object);
-    QVERIFY(!result.cancelled);
-    QVERIFY2(result.error.contains(complaint), qPrintable(result.error));
-    QVERIFY2(result.error.contains(path), qPrintable(result.error));
-}
-
-void TestModelImport::truncatedModelsAreRefusedOrSound_data()
-{
-    QTest::addColumn<QString>("file");
-    for (const char* file :
-         {"OBJ/spider.obj", "FBX/spider.fbx", "Collada/duck.dae", "PLY/cube_uv.ply", "PLY/cube_binary.ply",
-          "glTF2/BoxTextured-glTF-Binary/BoxTextured.glb", "glTF2/BoxTextured-glTF-Embedded/BoxTextured.gltf"}) {
-        QTest::newRow(file) << QString::fromLatin1(file);
-    }
-}
-
-void TestModelImport::truncatedModelsAreRefusedOrSound()
-{
-    QFETCH(QString, file);
-    const QByteArray whole = Files::Read(SampleModel(file));
-    QVERIFY(!whole.isEmpty());
-    const QString path = PathOf(QStringLiteral("cut.") + QFileInfo(file).suffix());
-    for (int part = 1; part < 16; ++part) {
-        QVERIFY(Files::Write(path, whole.left(static_cast<int>(qint64{whole.size()} * part / 16))));
-        const ImportResult result = ImportModel(path);
-        if (result.object) {
-            QCOMPARE(GeometryChecks::Faults(*result.object), QString());
-        } else {
-            QVERIFY(!result.error.isEmpty());
-        }
-    }
-}
-
-void TestModelImport::suffixesAreSortedAndComplete()
-{
-    const QStringList suffixes = Host::ImportableSuffixes();
-    QVERIFY(std::is_sorted(suffixes.begin(), suffixes.end()));
-    for (const char* suffix : {"3ds", "blend", "dae", "fbx", "glb", "gltf", "obj", "ply", "stl"}) {
-        QVERIFY2(suffixes.contains(QLatin1String(suffix)), suffix);
-    }
-    for (const QString& suffix : suffixes) {
-        QCOMPARE(suffix, suffix.toLower());
-        QVERIFY(!suffix.startsWith(QLatin1Char('.')) && !suffix.contains(QLatin1Char('*')) && !suffix.isEmpty());
-    }
 }
 
 QTEST_GUILESS_MAIN(TestModelImport)
