@@ -17,6 +17,17 @@ struct Options
     MV::ECompatibleApp app = MV::ECompatibleApp::FamilyA;
 };
 
+/// Qt takes "--plugin" for an option of its own and away from us, so it goes by another name from here on.
+void RenamePluginOption(int argc, char** argv)
+{
+    static char renamed[] = "--panel-plugin";
+    for (int i = 1; i < argc; ++i) {
+        if (qstrcmp(argv[i], "--plugin") == 0) {
+            argv[i] = renamed;
+        }
+    }
+}
+
 QString BesideProgram(const QString& relative)
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1Char('/') + relative);
@@ -67,6 +78,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    RenamePluginOption(argc, argv);
     QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("SoftClothPanel"));
     QCoreApplication::setApplicationName(QStringLiteral("softcloth-workbench"));
