@@ -12,7 +12,9 @@
 #include <QFile>
 #include <QGroupBox>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPixmap>
+#include <QScrollArea>
 #include <QTextStream>
 
 #include <cmath>
@@ -104,6 +106,36 @@ private:
         press(Qt::Key_Return, QStringLiteral("\r"));
     }
 
+    /// Drags the left mouse button over \p widget.
+    static void Drag(QWidget& widget, const QPoint& from, const QPoint& to)
+    {
+        const auto send = [&widget](QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::MouseButton held) {
+            QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
+            QApplication::sendEvent(&widget, &event);
+        };
+        send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    }
+
+    /// Scrolls the Modify panel so that \p widget is seen.
+    static void ScrollTo(QWidget& widget)
+    {
+        for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
+            if (auto* panel = qobject_cast<QScrollArea*>(parent)) {
+                panel->ensureWidgetVisible(&widget);
+            }
+        }
+    }
+
+    /// Empty when the panel's last call was \p operation.
+    QString CheckLastCall(const char* operation)
+    {
+        const JournalEntry& last = m_window.Application().Journal().Entries().constLast();
+        return last.operation == QLatin1String(operation) ? QString()
+                                                          : QStringLiteral("the last call is %1").arg(last.ToString());
+    }
+
     /// The cloth that the panel edits: the first one of the selected object that is active.
     const ClothState* EditedCloth()
     {
@@ -123,9 +155,12 @@ private:
     QString ShowScene();
     QString SwitchSoftClothOn();
     QString EditMargin();
-    QString FoldSection();
     QString UndoEdit();
     QString RedoEdit();
+    QString EditProperty();
+    QString EditWind();
+    QString DragRandomFactor();
+    QString FoldSection();
     QString DeselectObject();
 
     bool SaveJournal()
@@ -155,6 +190,9 @@ std::vector<Step> Tour::Steps()
         {"margin-edited", [this] { return EditMargin(); }},
         {"edit-undone", [this] { return UndoEdit(); }},
         {"edit-redone", [this] { return RedoEdit(); }},
+        {"property-edited", [this] { return EditProperty(); }},
+        {"wind-edited", [this] { return EditWind(); }},
+        {"random-factor-dragged", [this] { return DragRandomFactor(); }},
         {"section-folded", [this] { return FoldSection(); }},
         {"nothing-selected", [this] { return DeselectObject(); }},
     };
@@ -190,10 +228,7 @@ QString Tour::EditMargin()
     if (EditedCloth()->collision.rigidMargin != float(newMargin)) {
         return QStringLiteral("the host has margin %1").arg(double(EditedCloth()->collision.rigidMargin));
     }
-    const QVector<JournalEntry>& entries = m_window.Application().Journal().Entries();
-    return entries.constLast().operation == QLatin1String("SetSoftClothCollision")
-               ? QString()
-               : QStringLiteral("the last call is %1").arg(entries.constLast().ToString());
+    return CheckLastCall("SetSoftClothCollision");
 }
 
 QString Tour::UndoEdit()
@@ -214,6 +249,37 @@ QString Tour::RedoEdit()
                    std::abs(Find<QDoubleSpinBox>(marginBox)->value() - newMargin) < 0.0005
                ? QString()
                : QStringLiteral("the edit did not come back");
+}
+
+QString Tour::EditProperty()
+{
+    auto* box = Find<QAbstractSpinBox>("qtMassEXSpinBox");
+    ScrollTo(*box);
+    Type(*box, QStringLiteral("16"));
+    return EditedCloth()->property.mass == 16
+               ? CheckLastCall("SetSoftClothProperty")
+               : QStringLiteral("the host has mass %1").arg(EditedCloth()->property.mass);
+}
+
+QString Tour::EditWind()
+{
+    auto* box = Find<QAbstractSpinBox>("qtExternalXEXSpinBox");
+    ScrollTo(*Find<QWidget>("qtRandomFactorWidget"));
+    Type(*box, QStringLiteral("-120"));
+    const float wind = EditedCloth()->wind.externalAcceleration.front();
+    return wind == -120.0F ? CheckLastCall("SetSoftClothWind")
+                           : QStringLiteral("the host has acceleration %1").arg(double(wind));
+}
+
+QString Tour::DragRandomFactor()
+{
+    QWidget* slider = Find<QWidget>("qtRandomFactorWidget")->focusProxy();
+    // Handles are 17 pixels wide and move over the rest of the slider, which counts from 0 to 10.
+    const auto handle = [slider](int value) { return QPoint(8 + (slider->width() - 17) * value / 10, 16); };
+    Drag(*slider, handle(int(EditedCloth()->wind.randomFactor.back())), handle(7));
+    const float factor = EditedCloth()->wind.randomFactor.back();
+    return factor == 7.0F ? CheckLastCall("SetSoftClothWind")
+                          : QStringLiteral("the host has random factor %1").arg(double(factor));
 }
 
 QString Tour::FoldSection()

@@ -132,6 +132,16 @@ void Help(const QWidget& section, int count)
     }
 }
 
+QVariantList ShownByAll(const QWidget& section)
+{
+    QVariantList shown;
+    const QList<QWidget*> boxes = Boxes(section);
+    for (const QWidget* box : boxes) {
+        shown.append(Shown(box));
+    }
+    return shown;
+}
+
 void TabOrder(QWidget& section, const char* names)
 {
     Child<QPushButton>(&section, "qtExpandPushButton")->setFocus(Qt::TabFocusReason);

@@ -31,6 +31,9 @@ void Range(const QWidget& section);
 /// in a label that has it as buddy. No box tells of its value while the user types.
 void Help(const QWidget& section, int count);
 
+/// What all boxes of \p section show.
+QVariantList ShownByAll(const QWidget& section);
+
 /// Tab leads from the expand button through the named widgets, in this order.
 void TabOrder(QWidget& section, const char* names);
 

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void dragKeepsTheGripOnTheHandle();
     void dragKeepsItsDistance_data();
     void dragKeepsItsDistance();
+    void nearestNeighbourIsAskedFirst_data();
+    void nearestNeighbourIsAskedFirst();
     void narrowSliderKeepsAWiderDistance_data();
     void narrowSliderKeepsAWiderDistance();
     void dragCountsFromZeroWhateverTheMinimum_data();
@@ -144,6 +146,35 @@ void TestMultiLevelSliderDrag::dragKeepsItsDistance()
             QCOMPARE(window.slider.LevelValue(i), set[i]);
         }
     }
+}
+
+void TestMultiLevelSliderDrag::nearestNeighbourIsAskedFirst_data()
+{
+    QTest::addColumn<std::vector<int>>("set");
+    QTest::addColumn<int>("dragged");
+    QTest::addColumn<int>("x");
+    QTest::addColumn<int>("value");
+    // The distance is 2. Kept to the nearest first, the farther one is no longer overrun.
+    QTest::newRow("before") << std::vector<int>{8, 7, 10} << 2 << 4 << 9;
+    QTest::newRow("after") << std::vector<int>{0, 3, 2} << 0 << 35 << 1;
+}
+
+void TestMultiLevelSliderDrag::nearestNeighbourIsAskedFirst()
+{
+    QFETCH(std::vector<int>, set);
+    QFETCH(int, dragged);
+    QFETCH(int, x);
+    SliderSetup setup;
+    setup.levels = Levels({0, 5, 10});
+    SliderWindow window(setup, 40);
+    for (std::size_t i = 0; i < set.size(); ++i) {
+        window.slider.SetLevelValue(i, set[i]);
+    }
+    window.Press(window.slider.LevelPosition(std::size_t(dragged)) + 4);
+    QCOMPARE(window.slider.SelectedIndex(), std::size_t(dragged));
+    window.Move(x);
+    window.Release(x);
+    QTEST(window.slider.LevelValue(std::size_t(dragged)), "value");
 }
 
 void TestMultiLevelSliderDrag::narrowSliderKeepsAWiderDistance_data()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void boxesHaveSensibleRanges_data();
     void boxesHaveSensibleRanges();
     void boxesExplainThemselves();
+    void freshFormShowsTheHostsDefaults();
     void tabGoesThroughTheBoxesFromTopToBottom();
     void sectionStandsAtItsPlace();
     void nothingHappensWithoutAHost();
@@ -94,6 +95,15 @@ void TestPropertyForm::boxesExplainThemselves()
 {
     SectionFixture fixture;
     FormChecks::Help(fixture.Make<Section>(), 10);
+}
+
+void TestPropertyForm::freshFormShowsTheHostsDefaults()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    const QVariantList fresh = FormChecks::ShownByAll(section);
+    QCOMPARE(section.UpdateUi(), BF::Results::Success);
+    QCOMPARE(FormChecks::ShownByAll(section), fresh);
 }
 
 void TestPropertyForm::tabGoesThroughTheBoxesFromTopToBottom()

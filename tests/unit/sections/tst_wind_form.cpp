@@ -26,6 +26,7 @@ private Q_SLOTS:
     void boxesHaveSensibleRanges_data();
     void boxesHaveSensibleRanges();
     void boxesExplainThemselves();
+    void freshFormShowsTheHostsDefaults();
     void tabGoesThroughTheBoxesFromTopToBottom();
     void sectionStandsAtItsPlace();
     void plugInCreatesTheSectionsInTheirPlaces();
@@ -115,6 +116,15 @@ void TestWindForm::boxesExplainThemselves()
     QVERIFY(!SliderOf(section).accessibleName().isEmpty());
     QCOMPARE(Child<QLabel>(&section, "label_11")->buddy(), container);
     QCOMPARE(container->focusProxy(), &SliderOf(section));
+}
+
+void TestWindForm::freshFormShowsTheHostsDefaults()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    const QVariantList fresh = FormChecks::ShownByAll(section);
+    QCOMPARE(section.UpdateUi(), BF::Results::Success);
+    QCOMPARE(FormChecks::ShownByAll(section), fresh);
 }
 
 void TestWindForm::tabGoesThroughTheBoxesFromTopToBottom()

@@ -127,7 +127,7 @@ void TestWindProfile::freshSectionSavesItsOwnValues()
     const Section& section = fixture.Make<Section>();
     QCOMPARE(fixture.Saved(section, group),
              QStringList({QStringLiteral("[Wind_Setting]"), QStringLiteral("External_Acceleration=0, 0, 0"),
-                          QStringLiteral("Random_Acceleration=0, 0, 0"), QStringLiteral("Wind_Frequency=0"),
+                          QStringLiteral("Random_Acceleration=0, 0, 0"), QStringLiteral("Wind_Frequency=1"),
                           QStringLiteral("Wind_Random_Factor=0, 10")}));
 }
 
