@@ -17,6 +17,7 @@ fi
 
 scripts/lint.sh --format
 run_tests dev
+scripts/vendor-sdk.sh
 run_tests asan
 scripts/lint.sh --tidy
 say "All tests passed"
