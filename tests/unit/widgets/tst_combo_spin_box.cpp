@@ -289,6 +289,8 @@ void TestComboSpinBox::tabOrderHasTheSpinBoxOnly()
     QVERIFY(next->hasFocus());
     QTest::keyClick(next, Qt::Key_Backtab);
     QVERIFY(Box()->hasFocus());
+    QTest::keyClick(Box(), Qt::Key_Backtab);
+    QVERIFY(m_window->Other()->hasFocus());
 }
 
 void TestComboSpinBox::toolTipIsShownOverBothHalves()
