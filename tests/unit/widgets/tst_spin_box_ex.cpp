@@ -35,6 +35,7 @@ private Q_SLOTS:
     void setValueNeverCommits_data();
     void setValueNeverCommits();
     void escapeTakesTypedTextBack();
+    void escapeIsTheWindowsWithKeyboardTracking();
     void escapeBringsTheSpecialValueTextBack();
     void escapeWithNothingToTakeBackReachesTheWindow();
     void undoReachesTheApplication_data();
@@ -276,6 +277,16 @@ void TestSpinBoxEx::escapeTakesTypedTextBack()
     m_window->FocusElsewhere();
     QCOMPARE(Value(), 5.0);
     QCOMPARE(m_commits, 0);
+}
+
+void TestSpinBoxEx::escapeIsTheWindowsWithKeyboardTracking()
+{
+    m_box->setKeyboardTracking(true);
+    const KeyCounter atWindow(m_window.get(), Qt::Key_Escape);
+    Type(QStringLiteral("12"));
+    QTest::keyClick(m_box, Qt::Key_Escape);
+    QCOMPARE(Value(), 12.0);
+    QCOMPARE(atWindow.Count(), 1);
 }
 
 void TestSpinBoxEx::escapeBringsTheSpecialValueTextBack()

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void wheelWithoutFocusScrollsThePanel();
     void valueSetDuringARunIsNotCommitted_data();
     void valueSetDuringARunIsNotCommitted();
+    void stepAfterAValueSetDuringARunIsCommitted_data();
     void stepAfterAValueSetDuringARunIsCommitted();
     void settingTheUsersOwnValueKeepsTheEdit();
     void destroyedInTheMiddleOfAWheelRun();
@@ -176,11 +177,12 @@ void TestSpinBoxRuns::stepsThatCannotStepCommitNothing()
 
 void TestSpinBoxRuns::wheelRunCommitsOnceAfterThePause()
 {
-    for (int i = 0; i < 3; ++i) {
+    // Together longer than the pause that ends a run.
+    for (int i = 0; i < 4; ++i) {
         Wheel(m_box, 1);
-        QTest::qWait(50);
+        QTest::qWait(UserInput::longerThanWheelPause / 4);
     }
-    QCOMPARE(Value(), 8.0);
+    QCOMPARE(Value(), 9.0);
     QCOMPARE(m_commits, 0);
     QTRY_COMPARE(m_commits, 1);
     QTest::qWait(UserInput::longerThanWheelPause);
@@ -265,13 +267,21 @@ void TestSpinBoxRuns::valueSetDuringARunIsNotCommitted()
     QCOMPARE(m_commits, 0);
 }
 
+void TestSpinBoxRuns::stepAfterAValueSetDuringARunIsCommitted_data()
+{
+    QTest::addColumn<double>("set");
+    QTest::newRow("to another value") << 9.0;
+    QTest::newRow("back to where the run began") << 4.0;
+}
+
 void TestSpinBoxRuns::stepAfterAValueSetDuringARunIsCommitted()
 {
+    QFETCH(double, set);
     Wheel(m_box, 1);
-    SetValue(9);
+    SetValue(set);
     Wheel(m_box, 1);
     m_window->FocusElsewhere();
-    QCOMPARE(Value(), 10.0);
+    QCOMPARE(Value(), set + 1);
     QCOMPARE(m_commits, 1);
 }
 
