@@ -47,9 +47,10 @@ Options ReadOptions(const QApplication& application)
     const QCommandLineOption appKind(QStringLiteral("app-kind"),
                                      QCoreApplication::translate("main", "Application family: a, b or none."),
                                      QStringLiteral("kind"), QStringLiteral("a"));
-    const QCommandLineOption plugin(
-        QStringLiteral("plugin"), QCoreApplication::translate("main", "The plug-in library to load."),
-        QStringLiteral("path"), BesideProgram(QStringLiteral("../lib/" SOFTCLOTH_PLUGIN_NAME)));
+    const QCommandLineOption plugin(QStringList{QStringLiteral("plugin"), QStringLiteral("panel-plugin")},
+                                    QCoreApplication::translate("main", "The plug-in library to load."),
+                                    QStringLiteral("path"),
+                                    BesideProgram(QStringLiteral("../lib/" SOFTCLOTH_PLUGIN_NAME)));
     const QCommandLineOption tour(
         QStringLiteral("tour"),
         QCoreApplication::translate("main", "Run the main job unattended and write pictures into this folder."),
