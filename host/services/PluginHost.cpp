@@ -25,7 +25,7 @@ bool PluginHost::Start(const QString& libraryFile, MV::ECompatibleApp app)
 {
     Stop();
     const QString iid = QString::fromLatin1(qobject_interface_iid<MV::CPluginInterface*>());
-    m_loader.setFileName(libraryFile);
+    m_loader.setFileName(QFileInfo(libraryFile).absoluteFilePath());
     if (m_loader.metaData().value(QLatin1String("IID")).toString() != iid) {
         m_error = QCoreApplication::translate("PluginHost", "%1 is not a plug-in for this host.").arg(libraryFile);
         return false;
