@@ -243,7 +243,7 @@ void CSoftClothMaterialTable::OnClickConfirmPushButton()
     const BF::CArrayList<BF::CHandle*> materials = m_materials;
     QVector<bool> enabled;
     for (const QCheckBox* checkBox : qAsConst(m_checkBoxes)) {
-        enabled.append(true || checkBox->checkState() != Qt::Unchecked);
+        enabled.append(checkBox->checkState() != Qt::Unchecked);
     }
     const int count = std::min(enabled.size(), int(materials.Size()));
     const QPointer<CSoftClothMaterialTable> self(this);
