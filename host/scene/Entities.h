@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QColor>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QVector2D>
@@ -64,7 +65,7 @@ struct ObjectState
     bool softCloth = false;
     bool rigidBody = false;
     /// Materials that are not offered for the soft cloth: names of materials by the name of the mesh that they are on.
-    std::map<QString, QStringList> ignoredMaterials{};
+    QMap<QString, QStringList> ignoredMaterials{};
 };
 
 /// What the host tells of an object besides its values. Set through the host controls, not undoable.

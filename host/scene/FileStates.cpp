@@ -15,27 +15,29 @@ constexpr int weightImageVersion = 2;
 
 constexpr int mostAdjust = 100;
 
-QJsonArray IgnoredToJson(const std::map<QString, QStringList>& ignored)
+QJsonArray IgnoredToJson(const QMap<QString, QStringList>& ignored)
 {
     QJsonArray list;
-    for (const auto& [mesh, materials] : ignored) {
-        list.append(QJsonObject{{QStringLiteral("mesh"), mesh},
-                                {QStringLiteral("materials"), QJsonArray::fromStringList(materials)}});
+    for (auto it = ignored.begin(); it != ignored.end(); ++it) {
+        list.append(QJsonObject{{QStringLiteral("mesh"), it.key()},
+                                {QStringLiteral("materials"), QJsonArray::fromStringList(it.value())}});
     }
     return list;
 }
 
-std::map<QString, QStringList> IgnoredFromJson(const JsonNode& node)
+QMap<QString, QStringList> IgnoredFromJson(const JsonNode& node)
 {
-    std::map<QString, QStringList> ignored;
+    QMap<QString, QStringList> ignored;
     for (const JsonNode& entry : node.Items()) {
         QStringList names;
         for (const JsonNode& name : entry["materials"].Items()) {
             names.append(name.ToText());
         }
-        if (!ignored.emplace(entry["mesh"].ToText(), names).second) {
+        const QString mesh = entry["mesh"].ToText();
+        if (ignored.contains(mesh)) {
             entry["mesh"].Refuse(QStringLiteral("is named a second time"));
         }
+        ignored.insert(mesh, names);
     }
     return ignored;
 }

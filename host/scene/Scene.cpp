@@ -273,10 +273,9 @@ bool Scene::MayTakePart(Id materialId) const
     }
     const Object& owner = *OwnerOfMaterial(materialId);
     const auto& ignored = owner.state.ignoredMaterials;
-    return ignored.empty() || std::none_of(owner.meshes.begin(), owner.meshes.end(), [&](const Mesh& mesh) {
-               const auto names = ignored.find(mesh.name);
-               return names != ignored.end() && names->second.contains(material->name) &&
-                      m_index.FindSlot({owner.handle, mesh.id, materialId});
+    return ignored.isEmpty() || std::none_of(owner.meshes.begin(), owner.meshes.end(), [&](const Mesh& mesh) {
+               return m_index.FindSlot({owner.handle, mesh.id, materialId}) &&
+                      ignored.value(mesh.name).contains(material->name);
            });
 }
 

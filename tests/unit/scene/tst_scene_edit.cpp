@@ -105,7 +105,7 @@ void TestSceneEdit::changesOfUnknownThingsAreLeftOut()
     SceneEdit edit;
     edit.cloths = {{deleted, {}, after}, {mixed, {}, after}, {{}, {}, after}};
     edit.materials = {{m_second->materials[0].id, {}, {false}}, {Host::NewId(), {}, {false}}};
-    edit.objects = {{m_second->handle, {}, {true, true, true}}, {nullptr, {}, {false, true, true}}};
+    edit.objects = {{m_second->handle, {}, {false, true, true}}, {nullptr, {}, {false, true, true}}};
     const int steps = m_scene->UndoStack().count();
     QVERIFY(!m_scene->Push(edit));
     QCOMPARE(m_scene->UndoStack().count(), steps);
