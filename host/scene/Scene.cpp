@@ -324,7 +324,7 @@ bool Scene::Push(SceneEdit edit)
     TakeBefore(edit.cloths, m_index);
     TakeBefore(edit.materials, m_index);
     TakeBefore(edit.objects, m_index);
-    if (edit.ChangesNothing() && !edit.refused) {
+    if (edit.ChangesNothing() && !edit.isStepAnyway && !edit.refused) {
         return false;
     }
     m_undoStack.push(std::make_unique<EditCommand>(*this, std::move(edit)).release());

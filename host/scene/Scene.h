@@ -74,7 +74,7 @@ public:
 
     /// Applies \p edit as one undo step. Its before-states are taken from the scene, whatever it holds; changes of
     /// unknown things are left out. \return true when it became a step; an edit that changes nothing does not, unless
-    /// it is a refused one
+    /// it is to be one anyway
     bool Push(SceneEdit edit);
 
     /// The objects that an edit touches, each once, in scene order; deleted ones included.

@@ -45,8 +45,10 @@ struct SceneEdit
     /// Edits of the same things that follow each other with the same number become one undo step, as while a slider is
     /// dragged.
     int run = noRun;
-    /// The user is to be told that this was no good, and then it is taken back: it is a step even when it changes
-    /// nothing, and undoing it removes it for good. Not kept in scene files.
+    /// It is a step even when it changes nothing: whoever pushes it may want to take it back.
+    bool isStepAnyway = false;
+    /// The user is to be told that this was no good, and then it is taken back. It is a step anyway, and undoing it
+    /// removes it for good, so that nothing is left to redo. Scene files do not tell such steps from others.
     bool refused = false;
     std::vector<ClothChange> cloths;
     std::vector<MaterialChange> materials;
