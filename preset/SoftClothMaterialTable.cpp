@@ -39,31 +39,34 @@ QString NameOf(CSceneService& scene, BF::CHandle* id)
     return QString::fromStdWString(name);
 }
 
-QTableWidgetItem* NewReadOnlyItem(const QString& text)
+QTableWidgetItem* NewReadOnlyItem()
 {
-    auto* item = new (std::nothrow) QTableWidgetItem(text);
+    auto* item = new (std::nothrow) QTableWidgetItem;
     if (item) {
         item->setFlags(item->flags() & ~Qt::ItemIsEditable);
     }
     return item;
 }
 
-/// Keeps a table out of sight while it is filled: a visible one lays out all its rows again for each new cell widget.
+/// Keeps a table out of sight while its number of rows changes: a visible one lays out all its rows again for each
+/// cell widget that comes or goes.
 class CTableHidden
 {
 public:
-    explicit CTableHidden(QTableWidget& table)
-        : m_table(&table)
-        , m_wasHidden(table.isHidden())
+    CTableHidden(QTableWidget& table, bool hide)
+        : m_table(hide && !table.isHidden() ? &table : nullptr)
         , m_hadFocus(table.hasFocus())
     {
-        m_table->setUpdatesEnabled(false);
-        m_table->hide();
+        if (m_table) {
+            m_table->hide();
+        }
     }
     ~CTableHidden()
     {
-        m_table->setHidden(m_wasHidden);
-        m_table->setUpdatesEnabled(true);
+        if (!m_table) {
+            return;
+        }
+        m_table->show();
         if (m_hadFocus) {
             m_table->setFocus();
         }
@@ -72,7 +75,6 @@ public:
 
 private:
     QTableWidget* m_table;
-    bool m_wasHidden;
     bool m_hadFocus;
 };
 
@@ -152,15 +154,19 @@ BF::Result CSoftClothMaterialTable::FillTable()
         return BF::Results::Success;
     }
     const QVector<Row> rows = ReadRows();
-    const CTableHidden hidden(*table);
-    m_checkBoxes.clear();
-    table->setRowCount(0);
+    table->setCurrentCell(-1, -1);
+    table->scrollToTop();
+    // Rows that are there already are used again: making and destroying their widgets is what takes time.
+    const int kept = std::min(m_checkBoxes.size(), rows.size());
+    const CTableHidden hidden(*table, rows.size() != m_checkBoxes.size());
+    m_checkBoxes.resize(kept);
     table->setRowCount(rows.size());
     for (int row = 0; row < rows.size(); ++row) {
-        if (!MakeRow(row, rows.at(row))) {
+        if (row >= kept && !MakeRow(row)) {
             table->setRowCount(row);
             return BF::Results::ResourceFailure;
         }
+        ShowRow(row, rows.at(row));
     }
     return BF::Results::Success;
 }
@@ -179,33 +185,43 @@ QVector<CSoftClothMaterialTable::Row> CSoftClothMaterialTable::ReadRows() const
     return rows;
 }
 
+/// Puts an unticked check box and two empty cells into a row that has none yet.
 /// \return false when a part of the row could not be made
-bool CSoftClothMaterialTable::MakeRow(int row, const Row& content)
+bool CSoftClothMaterialTable::MakeRow(int row)
 {
     std::unique_ptr<QWidget> holder(new (std::nothrow) QWidget);
     auto* layout = holder ? new (std::nothrow) QHBoxLayout(holder.get()) : nullptr;
     auto* checkBox = layout ? new (std::nothrow) QCheckBox : nullptr;
-    if (!checkBox) {
+    std::unique_ptr<QTableWidgetItem> mesh(NewReadOnlyItem());
+    std::unique_ptr<QTableWidgetItem> material(NewReadOnlyItem());
+    if (!checkBox || !mesh || !material) {
+        delete checkBox;
         return false;
     }
-    checkBox->setChecked(content.enabled);
-    checkBox->setAccessibleName(content.material);
     layout->addWidget(checkBox);
     layout->setAlignment(Qt::AlignCenter);
     layout->setContentsMargins(0, 0, 0, 0);
     connect(checkBox, &QCheckBox::stateChanged, this, &CSoftClothMaterialTable::UpdateConfirmEnabled);
 
-    std::unique_ptr<QTableWidgetItem> mesh(NewReadOnlyItem(content.mesh));
-    std::unique_ptr<QTableWidgetItem> material(NewReadOnlyItem(content.material));
-    if (!mesh || !material) {
-        return false;
-    }
     QTableWidget* table = m_ui.materialTableWidget;
     table->setCellWidget(row, TickColumn, holder.release());
     table->setItem(row, MeshColumn, mesh.release());
     table->setItem(row, MaterialColumn, material.release());
     m_checkBoxes.append(checkBox);
     return true;
+}
+
+void CSoftClothMaterialTable::ShowRow(int row, const Row& content)
+{
+    QCheckBox* checkBox = m_checkBoxes.at(row);
+    const Qt::CheckState state = content.enabled ? Qt::Checked : Qt::Unchecked;
+    if (checkBox->checkState() != state) {
+        const CSignalBlocker silent{checkBox};
+        checkBox->setCheckState(state);
+    }
+    checkBox->setAccessibleName(content.material);
+    m_ui.materialTableWidget->item(row, MeshColumn)->setText(content.mesh);
+    m_ui.materialTableWidget->item(row, MaterialColumn)->setText(content.material);
 }
 
 void CSoftClothMaterialTable::UpdateConfirmEnabled()

@@ -35,7 +35,7 @@ public:
     /// carries the material at that index. The rows themselves change with the next FillTable().
     void SetMaterialRows(const BF::CArrayList<BF::CHandle*>& materials, const BF::CArrayList<BF::CHandle*>& meshes);
 
-    /// Makes the rows anew: names and ticks as the host tells them.
+    /// Fills the table anew: names and ticks as the host tells them. The confirm button stays as it was.
     /// \return 0; or 0x80000002 when a row could not be made, the rows before it stay
     BF::Result FillTable();
 
@@ -51,7 +51,8 @@ private:
 
     void SetUpTable();
     QVector<Row> ReadRows() const;
-    bool MakeRow(int row, const Row& content);
+    bool MakeRow(int row);
+    void ShowRow(int row, const Row& content);
 
     [[maybe_unused]] CPhysicsSoftClothPlugin* m_plugin;
     CMoviraInterface* m_host = nullptr;

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds and runs all tests: the sources' checks, then the tests plain and under the sanitizers.
+# Builds and runs all tests: the sources' layout, the tests plain, the build against an SDK elsewhere, the tests under
+# the sanitizers. scripts/lint.sh analyses the sources, which takes longer than all of this.
 # Options: --quick  only the plain tests
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 scripts/setup.sh --tools
@@ -17,6 +18,6 @@ fi
 
 scripts/lint.sh --format
 run_tests dev
+scripts/vendor-sdk.sh
 run_tests asan
-scripts/lint.sh --tidy
 say "All tests passed"

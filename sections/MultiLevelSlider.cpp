@@ -310,6 +310,7 @@ void CMultiLevelSlider::hideEvent(QHideEvent* event)
 }
 
 /// Takes a copy: the owner may exchange the function from within the call.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void CMultiLevelSlider::Report(Callback callback) const
 {
     if (callback) {

@@ -1,5 +1,6 @@
 #include "host/import/ModelImport.h"
 
+#include "host/import/ModelFiles.h"
 #include "host/import/SceneConversion.h"
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QFileInfo>
 #include <QStringList>
 
+#include <assimp/BaseImporter.h>
 #include <assimp/Importer.hpp>
 #include <assimp/ProgressHandler.hpp>
 #include <assimp/config.h>
@@ -30,15 +32,28 @@ constexpr double readEnd = 0.6;
 constexpr double processEnd = 0.9;
 
 /// What Assimp does to the scene once it is read, one by one so that a cancel is heard in between.
-constexpr std::array<unsigned, 5> processSteps{
+constexpr std::array<unsigned, 4> processSteps{
     // What tells vertices apart but is not taken over would keep them from being joined.
-    aiProcess_RemoveComponent,  aiProcess_Triangulate,           aiProcess_SortByPType,
-    aiProcess_GenSmoothNormals, aiProcess_JoinIdenticalVertices,
+    aiProcess_RemoveComponent,
+    aiProcess_Triangulate,
+    aiProcess_SortByPType,
+    aiProcess_JoinIdenticalVertices,
 };
 
 constexpr int unwantedComponents = aiComponent_TANGENTS_AND_BITANGENTS | aiComponent_COLORS | aiComponent_BONEWEIGHTS |
                                    aiComponent_ANIMATIONS | aiComponent_LIGHTS | aiComponent_CAMERAS |
                                    aiComponent_TEXCOORDSn(1) | aiComponent_TEXCOORDSn(2) | aiComponent_TEXCOORDSn(3);
+
+/// By suffix the readers that crash or hang on files that were cut off. Losing a scene is worse than not reading them.
+constexpr std::array unreliableReaders{"cob", "lws", "md5mesh", "mdl", "ogex", "smd"};
+
+void RemoveUnreliableReaders(Assimp::Importer& importer)
+{
+    for (const char* suffix : unreliableReaders) {
+        const std::unique_ptr<Assimp::BaseImporter> reader(importer.GetImporter(suffix));
+        importer.UnregisterLoader(reader.get());
+    }
+}
 
 /// Passes the progress on, never backwards, and remembers that somebody cancelled.
 class ProgressReport
@@ -139,6 +154,8 @@ ImportResult Import(const QFileInfo& file, ProgressReport& report)
 {
     const QString path = file.filePath();
     Assimp::Importer importer;
+    RemoveUnreliableReaders(importer);
+    importer.SetIOHandler(std::make_unique<ModelFiles>().release());
     importer.SetProgressHandler(std::make_unique<ReadProgress>(report).release());
     importer.SetPropertyInteger(AI_CONFIG_PP_RVC_FLAGS, unwantedComponents);
     importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
@@ -149,6 +166,9 @@ ImportResult Import(const QFileInfo& file, ProgressReport& report)
     }
     if (!scene) {
         return NotReadable(path, QString::fromUtf8(importer.GetErrorString()));
+    }
+    if (HasBrokenFaces(*scene)) {
+        return NotReadable(path, QStringLiteral("it is damaged."));
     }
     if (!HasSurfaces(*scene)) {
         return Failed(QStringLiteral("The model file \"%1\" holds no surfaces."), path);
@@ -203,8 +223,10 @@ ImportResult ImportModel(const QString& path, const ImportProgress& progress)
 
 QStringList ImportableSuffixes()
 {
+    Assimp::Importer importer;
+    RemoveUnreliableReaders(importer);
     aiString list;
-    Assimp::Importer().GetExtensionList(list);
+    importer.GetExtensionList(list);
     QStringList suffixes;
     const QStringList patterns = QString::fromUtf8(list.C_Str()).split(QLatin1Char(';'), Qt::SkipEmptyParts);
     for (const QString& pattern : patterns) {

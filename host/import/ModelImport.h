@@ -20,11 +20,12 @@ struct ImportResult
     QString error; ///< A sentence for the user when there is no object and nobody cancelled.
 };
 
-/// Reads a model file (glTF 2, OBJ, FBX, Collada, PLY and whatever else Assimp reads). Mesh names, material names,
-/// UVs, diffuse and opacity textures, linked or embedded, come along; triangles only, transforms baked in.
+/// Reads a model file (glTF 2, OBJ, FBX, Collada, PLY and what else Assimp reads safely, see ImportableSuffixes()).
+/// Mesh names, material names, UVs, diffuse and opacity textures, linked or embedded, come along; triangles only,
+/// transforms baked in.
 ImportResult ImportModel(const QString& path, const ImportProgress& progress = {});
 
-/// Suffixes that ImportModel() can read, lower case without a dot, sorted.
+/// Suffixes that ImportModel() can read, lower case without the leading dot, sorted.
 QStringList ImportableSuffixes();
 
 } // namespace Host

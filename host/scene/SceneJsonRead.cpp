@@ -248,7 +248,8 @@ private:
 /// The version of the format in which the document was written.
 int RequireFormat(const JsonNode& root)
 {
-    if (!root.Has("format") || !root["format"].IsText() || root["format"].ToText() != SceneFormat::name) {
+    if (!root.Has("format") || !root["format"].IsText() ||
+        root["format"].ToText() != QLatin1String(SceneFormat::name)) {
         throw SceneFormatError(QStringLiteral("it is no scene of this application"));
     }
     const qint64 version = root["version"].ToInteger(1, std::numeric_limits<int>::max());

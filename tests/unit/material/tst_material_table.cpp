@@ -22,15 +22,15 @@ class TestMaterialTable : public TestCase
 private Q_SLOTS:
     void initWithoutHostIsAnInvalidArgument();
     void initWithoutItsFormFails();
-    void formHasAllNamedChildren_data();
-    void formHasAllNamedChildren();
     void columnsAreSetUp();
     void headersAreTranslatedWithTheirNotes();
     void rowsAreReadFromTheHost();
     void rowsShowNamesAndTicks();
     void sameMeshIsShownOncePerMaterial();
     void emptyListGivesAnEmptyTable();
+    void refillReplacesTheRows_data();
     void refillReplacesTheRows();
+    void refillStartsAtTheTopWithNothingChosen();
     void tableKeepsCopiesOfItsLists();
     void unknownNamesAreLeftEmpty();
     void cellsCannotBeEdited();
@@ -139,36 +139,6 @@ void TestMaterialTable::initWithoutItsFormFails()
     QVERIFY(!table.findChild<QWidget*>());
 }
 
-void TestMaterialTable::formHasAllNamedChildren_data()
-{
-    QTest::addColumn<QString>("className");
-    const auto row = [](const char* name, const char* className) {
-        QTest::newRow(name) << QString::fromLatin1(className);
-    };
-    row("SoftClothMaterialTable", "QWidget");
-    row("qtMaterialTableGroupBox", "QGroupBox");
-    row("qtMaterialTableLabel", "QLabel");
-    row("qtCancelPushButton", "QPushButton");
-    row("qtConfirmPushButton", "QPushButton");
-    row("qtMaterialTableWidget", "QTableWidget");
-    row("qtMaterialTableBorderWidget", "QWidget");
-    row("qtMaterialTableButtonWidget", "QWidget");
-    row("qtDoEscapeAction", "QAction");
-    row("qtMaterialTableButtonLayout", "QHBoxLayout");
-    row("qtMaterialTableLayout", "QVBoxLayout");
-    row("qtMaterialTableHBoxLayout", "QHBoxLayout");
-    row("qtGroupBoxLayout", "QVBoxLayout");
-    row("qtWidgetLayout", "QVBoxLayout");
-}
-
-void TestMaterialTable::formHasAllNamedChildren()
-{
-    QFETCH(const QString, className);
-    DialogFixture fixture;
-    const auto* found = Child<QObject>(fixture.table.data(), QTest::currentDataTag());
-    QCOMPARE(QString::fromLatin1(found->metaObject()->className()), className);
-}
-
 void TestMaterialTable::columnsAreSetUp()
 {
     TableFixture fixture;
@@ -265,12 +235,64 @@ void TestMaterialTable::emptyListGivesAnEmptyTable()
     QCOMPARE(fixture.Take(), QStringList());
 }
 
+void TestMaterialTable::refillReplacesTheRows_data()
+{
+    QTest::addColumn<QStringList>("materials");
+    QTest::newRow("as many") << QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+    QTest::newRow("fewer") << QStringList{QStringLiteral("a")};
+    QTest::newRow("more") << QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
+                                         QStringLiteral("d")};
+}
+
 void TestMaterialTable::refillReplacesTheRows()
 {
+    QFETCH(const QStringList, materials);
+    for (const bool isVisible : {false, true}) {
+        TableFixture fixture;
+        fixture.object->materials.at(1).state.softClothEnabled = false;
+        fixture.Fill();
+        if (isVisible) {
+            fixture.ShowTable();
+        }
+        fixture.Add(SampleModels::Make(QStringLiteral("Other"), {{QStringLiteral("M"), materials}}));
+        fixture.object->materials.at(0).state.softClothEnabled = false;
+        fixture.Fill();
+        QStringList expected;
+        for (const QString& material : materials) {
+            const QString tick = expected.isEmpty() ? QStringLiteral("-") : QStringLiteral("x");
+            expected.append(QStringLiteral("%1 M %2").arg(tick, material));
+        }
+        QCOMPARE(fixture.Texts(), expected);
+        QCOMPARE(fixture.Confirm().isEnabled(), true);
+        QCOMPARE(fixture.Box(0).accessibleName(), QStringLiteral("a"));
+
+        // Every row's box counts, the ones that were there before too.
+        for (int row = 0; row < materials.size(); ++row) {
+            fixture.Box(row).setChecked(false);
+        }
+        QCOMPARE(fixture.Confirm().isEnabled(), materials.size() == 1);
+        fixture.Box(0).setChecked(true);
+        fixture.Box(0).setChecked(false);
+        QVERIFY(!fixture.Confirm().isEnabled());
+    }
+}
+
+void TestMaterialTable::refillStartsAtTheTopWithNothingChosen()
+{
     TableFixture fixture;
+    QStringList names;
+    for (int i = 0; i < 60; ++i) {
+        names.append(QStringLiteral("material %1").arg(i));
+    }
+    fixture.Add(SampleModels::Make(QStringLiteral("Many"), {{QStringLiteral("M"), names}}));
     fixture.Fill();
+    fixture.ShowTable();
+    fixture.Rows().setCurrentCell(59, 1);
+    QVERIFY(!fixture.Rows().visualItemRect(fixture.Rows().item(0, 1)).intersects(fixture.Rows().viewport()->rect()));
     fixture.Fill();
-    QCOMPARE(fixture.Texts(), heroRows);
+    QVERIFY(fixture.Rows().visualItemRect(fixture.Rows().item(0, 1)).intersects(fixture.Rows().viewport()->rect()));
+    QCOMPARE(fixture.Rows().currentRow(), -1);
+    QVERIFY(fixture.Rows().selectedItems().isEmpty());
 }
 
 void TestMaterialTable::tableKeepsCopiesOfItsLists()
