@@ -1,5 +1,7 @@
 #include "host/services/FileService.h"
 
+#include "host/services/WeightImages.h"
+
 namespace Host {
 
 FileService::FileService(HostApplication& host)
@@ -9,8 +11,16 @@ FileService::FileService(HostApplication& host)
 
 BF::Result FileService::LoadWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path, int mode)
 {
-    return Record("LoadWeightImage", {In(object), InId(mesh), InId(material), In(path), In(mode)},
-                  [] { return BF::Results::Refused; });
+    bool wasRun = false;
+    const BF::Result result =
+        Record("LoadWeightImage", {In(object), InId(mesh), InId(material), In(path), In(mode)}, [&] {
+            wasRun = true;
+            return App().Weights().Load({object, mesh, material}, QString::fromStdWString(path));
+        });
+    if (!wasRun && result.IsFailure()) {
+        App().Weights().PushRefusal(App().tr("Load weight image"));
+    }
+    return result;
 }
 
 BF::Result FileService::LoadSoftIniProfile(const std::wstring& path)
@@ -21,7 +31,7 @@ BF::Result FileService::LoadSoftIniProfile(const std::wstring& path)
 BF::Result FileService::SaveWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path)
 {
     return Record("SaveWeightImage", {In(object), InId(mesh), InId(material), In(path)},
-                  [] { return BF::Results::Refused; });
+                  [&] { return App().Weights().Save({object, mesh, material}, QString::fromStdWString(path)); });
 }
 
 } // namespace Host

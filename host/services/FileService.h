@@ -5,12 +5,13 @@
 
 namespace Host {
 
-/// MV::CFileService. The host keeps no weight images and no profiles of its own: every operation is refused.
+/// MV::CFileService: weight images from and to files. The host has no profiles of its own and refuses to load any.
 class FileService final : public MV::CFileService, private ServiceBase
 {
 public:
     explicit FileService(HostApplication& host);
 
+    /// After every failure there is one undo step to take back, whatever went wrong: the caller undoes it unseen.
     BF::Result LoadWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path, int mode) override;
     BF::Result LoadSoftIniProfile(const std::wstring& path) override;
     BF::Result SaveWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path) override;

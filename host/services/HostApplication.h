@@ -23,9 +23,12 @@ class AuxService;
 class EditService;
 class FileService;
 class HotKeyService;
+class ImageEditor;
+class Pictures;
 class SceneService;
 class SoftClothService;
 class UiService;
+class WeightImages;
 
 /// The stand-in host application: a scene, the services over it, the events, the call journal and the fault plan.
 ///
@@ -54,6 +57,15 @@ public:
     FaultPlan& Faults() { return m_faults; }
     PreparedAnswers& Answers() { return m_answers; }
 
+    // Images.
+    Host::Pictures& Images() const { return *m_pictures; }
+    Host::WeightImages& Weights() const { return *m_weightImages; }
+    Host::ImageEditor& Editor() const { return *m_imageEditor; }
+    /// Decodes the textures of an object in the background, with events at the beginning and at the end.
+    void LoadImages(BF::CHandle* object);
+    /// Tells the user about something that went wrong with a file, in a sentence.
+    void TellProblem(const QString& sentence);
+
     /// Parent of the plug-in's dialogs and of the host's own.
     void SetMainWindow(QWidget* window) { m_mainWindow = window; }
     QWidget* MainWindow() const { return m_mainWindow; }
@@ -72,6 +84,8 @@ public:
     void Select(const QVector<BF::CHandle*>& objects);
     void Undo();
     void Redo();
+    /// Takes the last edit back for the one who made it; a run of edits can go on after that.
+    void TakeBack();
 
     // Gates and modes.
 
@@ -91,11 +105,14 @@ public:
     /// unless some already are. \return false for an unknown object
     bool SetSoftClothActive(BF::CHandle* object, bool active);
 
+    /// How values stand in the journal.
+    JournalText Text() const;
+
     /// Sends an event and records it in the journal. The modes above send theirs; the host controls send any.
     template <class... Parameters, class... Arguments>
     void Send(const char* name, void (MV::CEventSender::*eventSignal)(Parameters...), const Arguments&... arguments)
     {
-        const JournalText text(*m_scene);
+        [[maybe_unused]] const JournalText text = Text();
         JournalEntry entry;
         entry.kind = JournalEntry::Kind::Event;
         entry.service = QStringLiteral("Event");
@@ -112,6 +129,8 @@ Q_SIGNALS:
     void SceneReplaced();
     /// Engine, playing, dialog mode, pick mode or traits changed.
     void StateChanged();
+    /// Something went wrong with a file; \p sentence is for the user.
+    void ProblemTold(const QString& sentence);
     /// The plug-in asked the host to draw the scene again.
     void SceneRefreshRequested();
     /// The plug-in asked for a page of the host's panels.
@@ -127,6 +146,9 @@ private:
     PreparedAnswers m_answers;
     QPointer<QWidget> m_mainWindow;
     QString m_dataFolder;
+    std::unique_ptr<Host::Pictures> m_pictures;
+    std::unique_ptr<Host::WeightImages> m_weightImages;
+    std::unique_ptr<Host::ImageEditor> m_imageEditor;
 
     std::unique_ptr<SceneService> m_sceneService;
     std::unique_ptr<EditService> m_editService;

@@ -7,16 +7,14 @@ BF::Result SceneService::IsSoftClothActive(BF::CHandle* object, Id mesh, Id mate
 {
     return ReadSlot("IsSoftClothActive", object, mesh, material, {Out(active)}, [&](const MaterialSlot& slot) {
         active = CurrentScene().FindObject(object)->state.softCloth && slot.cloth.active &&
-                 CurrentScene().FindMaterial(material)->state.softClothEnabled;
+                 CurrentScene().MayTakePart(material);
     });
 }
 
 bool SceneService::IsMaterialSoftClothEnabled(Id material)
 {
-    return RecordValue("IsMaterialSoftClothEnabled", {InId(material)}, [&] {
-        const Material* found = CurrentScene().FindMaterial(material);
-        return found && found->state.softClothEnabled;
-    });
+    return RecordValue("IsMaterialSoftClothEnabled", {InId(material)},
+                       [&] { return CurrentScene().MayTakePart(material); });
 }
 
 BF::Result SceneService::GetUseGlobalGravity(BF::CHandle* object, Id mesh, Id material, bool& use,
