@@ -122,7 +122,6 @@ private:
     CEditService& Edit() const;
     CUiService& Ui() const;
     SoftClothSelection& Selection() const;
-    CSoftClothMaterialTable* MaterialTable() const;
     void ConnectWidgets();
     void ConnectHostEvents();
     BF::Result RegisterHotKeys();
@@ -133,6 +132,7 @@ private:
     void ShowMessage(const QString& text);
 
     // Material list.
+    CSoftClothMaterialTable* MaterialTable() const;
     BF::Result ReadMaterials(BF::CHandle* object, std::vector<Material>& materials) const;
     BF::Result FillMaterialTable(const std::vector<Material>& materials) const;
     BF::Result AddMaterialRow(const Material& material);
@@ -140,24 +140,26 @@ private:
     std::size_t RowDatum(int row, int role) const;
     std::size_t CurrentMaterial() const;
 
-    // Weight images.
-    BF::Result LoadWeightImage(const QString& path);
-    bool TellLoadProblem(BF::Result loaded);
-    BF::Result EmbedWeightImage();
+    // Texture thumbnails.
+    MV::ETextureChannel ChannelOf(const QItemLabel* label) const;
     BF::Result FindTexture(MV::ETextureChannel channel, Drawing& drawing, bool& canBeEdited) const;
     BF::Result ShowThumbnail(QItemLabel* label, bool redraw);
     BF::Result DrawThumbnail(QItemLabel* label, const Drawing& drawing);
+    void MakeLabelCurrent(QItemLabel* label);
+    void ShowPreview();
+
+    // Weight image.
+    BF::Result LoadWeightImage(const QString& path);
+    bool TellLoadProblem(BF::Result loaded);
+    BF::Result EmbedWeightImage();
+    void WriteWeightAdjust(bool flag1, bool flag2);
+    BF::Result ReloadWeightAdjust();
     BF::Result FindWeightThumbnail(BF::CHandle*& thumbnail, bool& isDefault) const;
     BF::Result ReadWeightImage(WeightImage& image) const;
     BF::Result UpdateWeightSettings(bool redraw, bool reload);
     void EnableWeightWidgets(const WeightImage& image);
-    BF::Result ReloadWeightAdjust();
-    void WriteWeightAdjust(bool flag1, bool flag2);
     BF::Result FindImageToEdit(std::wstring& path) const;
     BF::Result EditUvTexture(bool& hasTexture);
-    MV::ETextureChannel ChannelOf(const QItemLabel* label) const;
-    void MakeLabelCurrent(QItemLabel* label);
-    void ShowPreview();
 
     CPhysicsSoftClothPlugin* m_plugin;
     CMoviraInterface* m_host = nullptr;

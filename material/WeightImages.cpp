@@ -1,4 +1,4 @@
-// The weight image of the selected material, and the pictures of its textures.
+// The weight image of the selected material: loading, saving, adjusting, and what the dialog shows of it.
 #include "material/SoftClothMaterialDlg.h"
 
 #include "plugin/MessageBox.h"
@@ -16,9 +16,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QFrame>
-#include <QImage>
 #include <QLineEdit>
-#include <QPixmap>
 #include <QPointer>
 #include <QPushButton>
 #include <QUrl>
@@ -32,23 +30,10 @@ namespace {
 
 constexpr int loadMode = 2;
 
-/// Objects whose meshes are materials' owners in the host's eyes; of the others the object itself is.
+/// Objects of these types are addressed by one of their meshes where the host asks for a material's place.
 bool HasMeshHandles(quint32 objectType)
 {
     return objectType >= 1 && objectType <= 3;
-}
-
-void ShowAdjust(QComboSpinBox* box, int value)
-{
-    if (box) {
-        const CSignalBlocker silent{box};
-        box->SetValue(value);
-    }
-}
-
-int ValueOf(const QComboSpinBox* box)
-{
-    return box ? box->Value() : 0;
 }
 
 } // namespace
@@ -207,153 +192,12 @@ BF::Result CSoftClothMaterialDlg::ReloadWeightAdjust()
     if (known.IsFailure()) {
         return known;
     }
-    ShowAdjust(m_ui.brightnessComboSpinBox, adjust.brightness);
-    ShowAdjust(m_ui.contrastComboSpinBox, adjust.contrast);
+    ShowValue(m_ui.brightnessComboSpinBox, adjust.brightness);
+    ShowValue(m_ui.contrastComboSpinBox, adjust.contrast);
     return BF::Results::Success;
 }
 
-// The three textures.
-
-ETextureChannel CSoftClothMaterialDlg::ChannelOf(const QItemLabel* label) const
-{
-    if (label && label == m_ui.diffuseItemLabel) {
-        return ETextureChannel::Diffuse;
-    }
-    return label && label == m_ui.opacityItemLabel ? ETextureChannel::Opacity : ETextureChannel::Weight;
-}
-
-void CSoftClothMaterialDlg::OnItemSelectedChanged()
-{
-    auto* label = qobject_cast<QItemLabel*>(sender());
-    if (!label) {
-        return;
-    }
-    MakeLabelCurrent(label);
-    if (label == m_ui.weightingItemLabel) {
-        UpdateWeightSettings(false, true);
-    } else if (label == m_ui.diffuseItemLabel || label == m_ui.opacityItemLabel) {
-        ShowThumbnail(label, false);
-    }
-}
-
-void CSoftClothMaterialDlg::SelectWeightingLabel()
-{
-    MakeLabelCurrent(m_ui.weightingItemLabel);
-}
-
-void CSoftClothMaterialDlg::MakeLabelCurrent(QItemLabel* label)
-{
-    m_currentLabel = label;
-    const CSignalBlocker silent{m_ui.diffuseItemLabel, m_ui.opacityItemLabel, m_ui.weightingItemLabel};
-    for (QItemLabel* each : {m_ui.diffuseItemLabel, m_ui.opacityItemLabel, m_ui.weightingItemLabel}) {
-        if (each) {
-            each->SetSelected(each == label);
-            each->update();
-        }
-    }
-    ShowPreview();
-}
-
-/// Shows the picture of the current texture, enlarged; of the weight image as long as none is current.
-void CSoftClothMaterialDlg::ShowPreview()
-{
-    const QItemLabel* shown = m_currentLabel ? m_currentLabel : m_ui.weightingItemLabel;
-    if (!m_ui.bitmapLabel || !shown) {
-        return;
-    }
-    const QPixmap picture = shown->pixmap(Qt::ReturnByValue);
-    if (picture.isNull()) {
-        m_ui.bitmapLabel->clear();
-        return;
-    }
-    QPixmap enlarged = picture.scaled(m_ui.bitmapLabel->contentsRect().size() * picture.devicePixelRatioF(),
-                                      Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    m_ui.bitmapLabel->setPixmap(enlarged);
-}
-
-BF::Result CSoftClothMaterialDlg::DrawThumbnail(QItemLabel* label, const Drawing& drawing)
-{
-    if (!label) {
-        return BF::Results::Success;
-    }
-    // On a screen with finer pixels the picture gets as many as the label has.
-    const qreal ratio = label->devicePixelRatioF();
-    QImage image(1, 1, QImage::Format_ARGB32);
-    const BF::Result drawn = Scene().RenderThumbnail(qRound(label->width() * ratio), qRound(label->height() * ratio),
-                                                     drawing.thumbnail, drawing.source, image);
-    if (drawn.IsFailure()) {
-        return drawn;
-    }
-    image.setDevicePixelRatio(ratio);
-    label->setPixmap(QPixmap::fromImage(image));
-    ShowPreview();
-    return BF::Results::Success;
-}
-
-/// Finds out how a texture of the selected material is to be drawn.
-/// \param drawing  the default thumbnail where the channel has no texture
-/// \param canBeEdited  whether there is a texture and it is not embedded
-BF::Result CSoftClothMaterialDlg::FindTexture(ETextureChannel channel, Drawing& drawing, bool& canBeEdited) const
-{
-    CSceneService& scene = Scene();
-    const std::size_t material = Selection().material;
-    bool hasTexture = false;
-    bool hasFile = false;
-    bool unused1 = false;
-    bool unused2 = false;
-    const BF::Result known = scene.GetMaterialTextureState(material, channel, hasTexture, hasFile, unused1, unused2);
-    if (known.IsFailure()) {
-        return known;
-    }
-    canBeEdited = hasTexture;
-    if (!hasTexture) {
-        return scene.GetDefaultThumbnail(drawing.thumbnail);
-    }
-    if (hasFile) {
-        const bool embedded = scene.IsTextureEmbedded(material);
-        const bool loaded = scene.LoadTextureSource(material, channel);
-        canBeEdited = !embedded;
-        const BF::Result opened = embedded && loaded ? scene.GetEmbeddedTexture(material, channel)
-                                                     : scene.OpenTexture(material, channel, true);
-        if (opened.IsFailure()) {
-            return opened;
-        }
-    }
-    bool hasSource = false;
-    const BF::Result found = scene.GetTextureThumbnail(material, channel, drawing.thumbnail, hasSource);
-    if (found.IsFailure() || !hasSource) {
-        return found;
-    }
-    return scene.GetThumbnailSource(material, channel, drawing.source);
-}
-
-/// \param redraw  false: only the enabled states follow
-BF::Result CSoftClothMaterialDlg::ShowThumbnail(QItemLabel* label, bool redraw)
-{
-    Drawing drawing;
-    bool canBeEdited = false;
-    const BF::Result known = FindTexture(ChannelOf(label), drawing, canBeEdited);
-    if (known.IsFailure()) {
-        return known;
-    }
-    if (redraw) {
-        const BF::Result drawn = DrawThumbnail(label, drawing);
-        if (drawn.IsFailure()) {
-            return drawn;
-        }
-    }
-    if (label && label == m_currentLabel) {
-        EnableWidget(m_ui.launchPushButton, canBeEdited);
-        for (QWidget* widget : std::initializer_list<QWidget*>{
-                 m_ui.openFilePushButton, m_ui.uvRefPushButton, m_ui.embedTexturePushButton, m_ui.deleteFilePushButton,
-                 m_ui.saveFilePushButton, m_ui.bitmapLabel, m_ui.bitmapPathLineEdit, m_ui.openPathPushButton}) {
-            EnableWidget(widget, false);
-        }
-        ShowPath({});
-        EnableAdjustWidgets(false);
-    }
-    return BF::Results::Success;
-}
+// What the dialog shows of the weight image.
 
 /// What the host tells of the weight image.
 struct CSoftClothMaterialDlg::WeightImage
@@ -512,27 +356,6 @@ BF::Result CSoftClothMaterialDlg::EditUvTexture(bool& hasTexture)
     BF::CArrayList<std::wstring> files;
     const BF::Result exported = Scene().ExportUvTexture(handle, index, ETextureChannel::Diffuse, files);
     return exported.IsFailure() ? exported : Ui().LaunchImageEditor(files);
-}
-
-void CSoftClothMaterialDlg::OnMaterialTextureChanged(BF::CHandle* hObject,
-                                                     const BF::CArrayList<unsigned long long>& kMaterialIndices,
-                                                     ETextureChannel eChannel)
-{
-    if (!isVisible() || hObject != Selection().object) {
-        return;
-    }
-    std::size_t index = 0;
-    const BF::Result known = Scene().GetMaterialIndex(hObject, Selection().material, index);
-    if (known.IsFailure() || !kMaterialIndices.Contains(index)) {
-        return;
-    }
-    const bool both = eChannel == ETextureChannel::DiffuseAndOpacity;
-    if (both || eChannel == ETextureChannel::Diffuse) {
-        ShowThumbnail(m_ui.diffuseItemLabel, true);
-    }
-    if (both || eChannel == ETextureChannel::Opacity) {
-        ShowThumbnail(m_ui.opacityItemLabel, true);
-    }
 }
 
 } // namespace MV

@@ -31,6 +31,18 @@ QColor ColorFromJson(const JsonNode& node)
     return QColor::fromRgba64(part(0), part(1), part(2), part(3));
 }
 
+/// The ids that a file has defined so far.
+using TakenIds = std::set<Id>;
+
+Id DefineId(const JsonNode& node, TakenIds& taken)
+{
+    const Id id = LocalId(node);
+    if (!taken.insert(id).second) {
+        node.Refuse(QStringLiteral("is %1, which is in use already").arg(id));
+    }
+    return id;
+}
+
 /// The scene file may have moved together with its textures or without them.
 QString TextureFile(const JsonNode& node, const QDir& folder)
 {
@@ -60,10 +72,10 @@ std::pair<MV::ETextureChannel, Texture> TextureFromJson(const JsonNode& node, co
 
 // Objects are read with the ids of the file; the scene replaces them.
 
-Material MaterialFromJson(const JsonNode& node, const QDir& folder)
+Material MaterialFromJson(const JsonNode& node, const QDir& folder, TakenIds& taken)
 {
     Material material;
-    material.id = LocalId(node["id"]);
+    material.id = DefineId(node["id"], taken);
     material.name = node["name"].ToText();
     material.diffuse = ColorFromJson(node["diffuse"]);
     for (const JsonNode& texture : node["textures"].Items()) {
@@ -110,10 +122,10 @@ std::vector<Item> PerVertexFromJson(const JsonNode& node, std::size_t vertexCoun
     return items;
 }
 
-Mesh MeshFromJson(const JsonNode& node, const std::vector<Material>& materials)
+Mesh MeshFromJson(const JsonNode& node, const std::vector<Material>& materials, TakenIds& taken)
 {
     Mesh mesh;
-    mesh.id = LocalId(node["id"]);
+    mesh.id = DefineId(node["id"], taken);
     mesh.name = node["name"].ToText();
     mesh.positions = ArrayFromJson<QVector3D>(node["positions"]);
     mesh.normals = PerVertexFromJson<QVector3D>(node["normals"], mesh.positions.size());
@@ -128,18 +140,18 @@ Mesh MeshFromJson(const JsonNode& node, const std::vector<Material>& materials)
     return mesh;
 }
 
-Object ObjectFromJson(const JsonNode& node, const QDir& folder)
+Object ObjectFromJson(const JsonNode& node, const QDir& folder, TakenIds& taken)
 {
     Object object;
-    object.handle = ToHandle(LocalId(node["id"]));
+    object.handle = ToHandle(DefineId(node["id"], taken));
     object.name = node["name"].ToText();
     object.traits = StateFromJson<ObjectTraits>(node["traits"]);
     object.state = StateFromJson<ObjectState>(node["state"]);
     for (const JsonNode& material : node["materials"].Items()) {
-        object.materials.push_back(MaterialFromJson(material, folder));
+        object.materials.push_back(MaterialFromJson(material, folder, taken));
     }
     for (const JsonNode& mesh : node["meshes"].Items()) {
-        object.meshes.push_back(MeshFromJson(mesh, object.materials));
+        object.meshes.push_back(MeshFromJson(mesh, object.materials, taken));
     }
     return object;
 }
@@ -168,14 +180,12 @@ public:
 
     void AddObject(const JsonNode& node, const QDir& folder)
     {
-        Object object = ObjectFromJson(node, folder);
+        Object object = ObjectFromJson(node, folder, m_taken);
         const std::vector<Id> local = IdsOf(object);
         const Object& added = m_scene.AddObject(std::move(object));
         const std::vector<Id> fresh = IdsOf(added);
         for (std::size_t i = 0; i < local.size(); ++i) {
-            if (!m_ids.try_emplace(local[i], fresh[i]).second) {
-                node.Refuse(QStringLiteral("uses the id %1 a second time").arg(local[i]));
-            }
+            m_ids.emplace(local[i], fresh[i]);
         }
         m_objects.insert(added.handle);
         for (const Material& material : added.materials) {
@@ -241,7 +251,8 @@ private:
     }
 
     Scene& m_scene;
-    std::map<Id, Id> m_ids;
+    TakenIds m_taken;
+    std::map<Id, Id> m_ids; ///< From those of the file to those of the scene.
     std::set<BF::CHandle*> m_objects;
     std::set<Id> m_materials;
     std::set<std::tuple<BF::CHandle*, Id, Id>> m_slots;

@@ -19,32 +19,48 @@ ComboSlider::ComboSlider(QWidget* parent)
     setFocusPolicy(Qt::ClickFocus);
 }
 
-void ComboSlider::mousePressEvent(QMouseEvent* event)
+QRect ComboSlider::HandleRect() const
 {
     QStyleOptionSlider option;
     initStyleOption(&option);
-    const QRect handle = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
-    if (event->button() == Qt::LeftButton && !handle.contains(event->pos())) {
-        // A press on the groove takes the handle there, and a drag goes on from it.
-        const QRect groove = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
-        const int span = groove.width() - handle.width();
-        const int x = event->pos().x() - groove.x() - handle.width() / 2;
-        setSliderPosition(QStyle::sliderValueFromPosition(minimum(), maximum(), x, span, option.upsideDown));
+    return style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+}
+
+void ComboSlider::TakeHandleTo(int x)
+{
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const QRect groove = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
+    const int handleWidth = HandleRect().width();
+    setSliderPosition(QStyle::sliderValueFromPosition(minimum(), maximum(), x - groove.x() - handleWidth / 2,
+                                                      groove.width() - handleWidth, option.upsideDown));
+}
+
+void ComboSlider::mousePressEvent(QMouseEvent* event)
+{
+    if (event->buttons() != Qt::LeftButton || HandleRect().contains(event->pos())) {
+        QSlider::mousePressEvent(event);
+        return;
     }
-    QSlider::mousePressEvent(event);
+    // A press beside the handle takes it there, and a drag goes on from it.
+    TakeHandleTo(event->pos().x());
+    QMouseEvent onHandle(event->type(), HandleRect().center(), event->windowPos(), event->screenPos(), event->button(),
+                         event->buttons(), event->modifiers());
+    QSlider::mousePressEvent(&onHandle);
+    event->setAccepted(onHandle.isAccepted());
 }
 
 void ComboSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     QSlider::mouseReleaseEvent(event);
-    EndEdit();
+    EndRun();
 }
 
 void ComboSlider::keyReleaseEvent(QKeyEvent* event)
 {
     QSlider::keyReleaseEvent(event);
     if (!event->isAutoRepeat()) {
-        EndEdit();
+        EndRun();
     }
 }
 
@@ -68,10 +84,19 @@ void ComboSlider::focusOutEvent(QFocusEvent* event)
 void ComboSlider::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() == m_wheelPause.timerId()) {
-        EndEdit();
+        m_wheelPause.stop();
+        EndRun();
         return;
     }
     QSlider::timerEvent(event);
+}
+
+void ComboSlider::EndRun()
+{
+    // A drag goes on until the handle is let go, whatever other buttons and keys do.
+    if (!isSliderDown()) {
+        EndEdit();
+    }
 }
 
 void ComboSlider::EndEdit()

@@ -26,6 +26,9 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    QRect HandleRect() const;
+    void TakeHandleTo(int x);
+    void EndRun();
     void EndEdit();
 
     QBasicTimer m_wheelPause;

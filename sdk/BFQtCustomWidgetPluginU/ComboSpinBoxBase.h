@@ -29,7 +29,9 @@ public:
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(m_slider, 1);
         layout->addWidget(m_spinBox);
+        // With no policy of its own the combo would not be reached through a label's shortcut.
         setFocusProxy(m_spinBox);
+        setFocusPolicy(Qt::StrongFocus);
         m_spinBox->setKeyboardTracking(false);
         // So that the numbers of several boxes stand in one column, whatever their ranges and suffixes.
         m_spinBox->setMinimumWidth(96);
@@ -51,6 +53,15 @@ public:
         QObject::connect(m_slider, &ComboSlider::EditEnded, this, [this] { FinishEdit(); });
         QObject::connect(m_spinBox, &SpinBox::RecordEditingValue, this, [this] { FinishEdit(); });
     }
+
+    ~ComboSpinBoxBase() override
+    {
+        // A window that goes takes the focus from the halves, which ends an edit; nobody is there any more to tell.
+        m_slider->disconnect(this);
+        m_spinBox->disconnect(this);
+    }
+
+    Q_DISABLE_COPY_MOVE(ComboSpinBoxBase)
 
     /// The value that both halves show.
     Number Value() const { return m_spinBox->value(); }
@@ -90,7 +101,7 @@ protected:
 
     const SpinBox& Box() const { return *m_spinBox; }
 
-    /// Changes the spin box on behalf of the program.
+    /// Changes the spin box on behalf of the program. A new value starts the user's edit anew.
     template <class Change>
     void ChangeSilently(Change change)
     {
@@ -100,8 +111,8 @@ protected:
             change(*m_spinBox);
         }
         FitSlider();
-        m_editStart = Value();
-        if (m_editStart != before) {
+        if (Value() != before) {
+            m_editStart = Value();
             TellValueChanged(m_editStart);
         }
     }
@@ -120,7 +131,7 @@ private:
     double Resolution() const
     {
         constexpr double mostSteps = 1000000.0;
-        return std::max(FinestStep(), Range() / mostSteps);
+        return std::max(FinestStep(), double(Maximum()) / mostSteps - double(Minimum()) / mostSteps);
     }
 
     double FinestStep() const
@@ -132,11 +143,17 @@ private:
         }
     }
 
-    double Range() const { return double(Maximum()) - double(Minimum()); }
+    /// How many slider steps \p value is away from the minimum. The difference of the two may be out of reach.
+    double StepsTo(Number value) const
+    {
+        const double resolution = Resolution();
+        return double(value) / resolution - double(Minimum()) / resolution;
+    }
 
     Number ValueAt(int position) const
     {
-        const double value = std::min(double(Minimum()) + position * Resolution(), double(Maximum()));
+        const double resolution = Resolution();
+        const double value = std::min((double(Minimum()) / resolution + position) * resolution, double(Maximum()));
         if constexpr (std::is_floating_point_v<Number>) {
             return value;
         } else {
@@ -148,12 +165,12 @@ private:
     void FitSlider()
     {
         const QSignalBlocker silent(m_slider);
-        const double resolution = Resolution();
-        const int steps = int(std::ceil(Range() / resolution - 0.001));
+        const int steps = int(std::ceil(StepsTo(Maximum()) - 0.001));
+        const double singleStep = std::min(double(SingleStep()) / Resolution(), double(steps));
         m_slider->setRange(0, steps);
-        m_slider->setSingleStep(std::max(1, int(std::lround(double(SingleStep()) / resolution))));
+        m_slider->setSingleStep(std::max(1, int(std::lround(singleStep))));
         m_slider->setPageStep(std::max(1, steps / 10));
-        m_slider->setValue(int(std::lround((double(Value()) - double(Minimum())) / resolution)));
+        m_slider->setValue(int(std::lround(StepsTo(Value()))));
     }
 
     void FinishEdit()

@@ -49,11 +49,14 @@ void QItemLabel::mousePressEvent(QMouseEvent* event)
 
 void QItemLabel::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton || !m_getOpenFileName) {
+    if (event->button() != Qt::LeftButton) {
         QLabel::mouseDoubleClickEvent(event);
         return;
     }
     event->accept();
+    if (!m_getOpenFileName) {
+        return;
+    }
     // The functor may show a dialog, during which this label can be destroyed.
     const QPointer<QItemLabel> self(this);
     const auto ask = m_getOpenFileName;

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QBasicTimer>
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QTimerEvent>
 #include <QWheelEvent>
 
+#include <optional>
 #include <utility>
 
 /// Adds to QSpinBox or QDoubleSpinBox the notion of a committed edit, which both host spin boxes share.
@@ -14,7 +16,7 @@
 /// An edit begins with the first user event that changes the value and is committed on Return, on loss of focus, when
 /// a held arrow key or arrow button is let go, and a moment after the last wheel step. Committed() is called when the
 /// value then differs from the one at the beginning. A value set by the program in between starts the edit anew: it
-/// was not the user's.
+/// was not the user's. Without keyboard tracking, Escape takes typed text back that has not become the value yet.
 template <class SpinBox>
 class SpinBoxCommit : public SpinBox
 {
@@ -23,12 +25,18 @@ public:
         : SpinBox(parent)
     {
         this->setFocusPolicy(Qt::StrongFocus);
+        // Text that is pasted, dropped or composed passes no key event of the box. The box itself turns text into a
+        // value at textChanged, before the second of these.
+        const QLineEdit* edit = this->lineEdit();
+        QObject::connect(edit, &QLineEdit::textEdited, this, [this] { BeginTextChange(); });
+        QObject::connect(edit, &QLineEdit::textChanged, this, [this] { m_textChange.reset(); });
     }
 
     void stepBy(int steps) override
     {
         const UserChange change(*this);
         SpinBox::stepBy(steps);
+        m_stepped = true;
     }
 
 protected:
@@ -69,7 +77,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override
     {
         SpinBox::keyReleaseEvent(event);
-        if (!event->isAutoRepeat() && IsStepKey(event->key())) {
+        if (m_stepped && !event->isAutoRepeat() && IsStepKey(event->key())) {
             Commit();
         }
     }
@@ -103,6 +111,13 @@ protected:
             return;
         }
         SpinBox::timerEvent(event);
+    }
+
+    void hideEvent(QHideEvent* event) override
+    {
+        // Typed text becomes the value; the loss of focus that follows commits it.
+        const UserChange change(*this);
+        SpinBox::hideEvent(event);
     }
 
     void focusOutEvent(QFocusEvent* event) override
@@ -143,7 +158,6 @@ private:
                 m_box.m_startValue = m_before;
             }
             m_box.m_lastValue = m_box.value();
-            m_box.m_stepped = true;
         }
         Q_DISABLE_COPY_MOVE(UserChange)
 
@@ -157,12 +171,21 @@ private:
         return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
     }
 
+    void BeginTextChange()
+    {
+        // Text typed right after a run of steps goes on with the same edit; the run's end must not commit half a text.
+        m_wheelPause.stop();
+        m_stepped = false;
+        m_textChange.emplace(*this);
+    }
+
     bool RevertTypedText()
     {
         if (!this->lineEdit()->isModified() || this->keyboardTracking()) {
             return false;
         }
-        this->lineEdit()->setText(this->prefix() + this->textFromValue(this->value()) + this->suffix());
+        this->setValue(this->value());
+        this->lineEdit()->setModified(false);
         this->selectAll();
         return true;
     }
@@ -171,6 +194,7 @@ private:
     {
         m_wheelPause.stop();
         m_stepped = false;
+        this->lineEdit()->setModified(false);
         if (!m_editing) {
             return;
         }
@@ -182,8 +206,9 @@ private:
     }
 
     bool m_editing = false; ///< The user has changed the value since the last commit.
-    bool m_stepped = false;
+    bool m_stepped = false; ///< By an arrow or the wheel, since the last commit.
     Value m_startValue{};
     Value m_lastValue{};
+    std::optional<UserChange> m_textChange;
     QBasicTimer m_wheelPause;
 };

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Installs what the project needs on a Debian 12 machine: only what is missing, nothing when all is there.
+# Options: --tools  also the tools that check the sources (clang-format, clang-tidy, clazy)
+. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+packages=(
+    # compiler and build tools
+    g++ cmake ninja-build ccache binutils
+    # Qt: widgets, run-time forms and Designer plug-ins, translations tools, further image formats
+    qtbase5-dev qttools5-dev qttools5-dev-tools qt5-image-formats-plugins
+    # model import, and real models for the tests
+    libassimp-dev assimp-testmodels
+    # a display where there is none, and a font
+    xvfb xauth fontconfig fonts-dejavu-core
+)
+if [ "${1:-}" = --tools ]; then
+    packages+=(clang-format clang-tidy clazy)
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+    status=$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null || true)
+    [ "$status" = "install ok installed" ] || missing+=("$package")
+done
+if [ ${#missing[@]} -eq 0 ]; then
+    exit 0
+fi
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    as_root=(sudo)
+fi
+say "Installing ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

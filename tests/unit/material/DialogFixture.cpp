@@ -1,0 +1,133 @@
+#include "tests/unit/material/DialogFixture.h"
+
+#include <QPushButton>
+
+#include <memory>
+
+DialogFixture::DialogFixture(MV::ECompatibleApp app)
+{
+    host.SetMainWindow(&window);
+    host.Answers().unattended = true;
+    // For an application of neither family the plug-in object registers its resources and makes no parts.
+    plugin.SetCurrentApp(MV::ECompatibleApp::None);
+    if (plugin.Initialize(QStringLiteral(SOFTCLOTH_PLUGIN_FILE), QString(), &host).IsFailure()) {
+        qFatal("the plug-in object does not start");
+    }
+    plugin.SetCurrentApp(app);
+    auto* newTable = new MV::CSoftClothMaterialTable(&window, &plugin);
+    table = QSharedPointer<MV::CSoftClothMaterialTable>(
+        newTable, [guard = QPointer<MV::CSoftClothMaterialTable>(newTable)](auto*) { delete guard.data(); });
+    dialog = new MV::CSoftClothMaterialDlg(&window, &plugin);
+    dialog->SetMaterialTable(table);
+    if (table->Init({}, {}, &host).IsFailure() || dialog->Init({}, {}, &host).IsFailure()) {
+        qFatal("the dialogs do not start");
+    }
+    host.Journal().Clear();
+}
+
+Host::Object& DialogFixture::Add(Host::Object model)
+{
+    object = &host.CurrentScene().AddObject(std::move(model));
+    host.CurrentScene().SetSelection({object->handle});
+    Selection().object = object->handle;
+    Selection().objectType = object->traits.type;
+    return *object;
+}
+
+void DialogFixture::List()
+{
+    dialog->ReloadMaterials(object->handle, true);
+    host.Journal().Clear();
+}
+
+void DialogFixture::Show()
+{
+    host.SetDialogMode(MV::EDialogMode::WeightMap);
+    if (!QTest::qWaitForWindowExposed(dialog)) {
+        qFatal("the dialog does not show");
+    }
+    QApplication::setActiveWindow(dialog);
+    host.Journal().Clear();
+}
+
+void DialogFixture::Open(Host::Object model)
+{
+    Add(std::move(model));
+    List();
+    Show();
+}
+
+QStringList DialogFixture::Take()
+{
+    QStringList texts;
+    for (const Host::JournalEntry& entry : host.Journal().Entries()) {
+        if (entry.kind == Host::JournalEntry::Kind::Call) {
+            texts.append(entry.ToString());
+        }
+    }
+    host.Journal().Clear();
+    return texts;
+}
+
+QStringList DialogFixture::TakeOperations()
+{
+    QStringList names;
+    for (const QString& text : Take()) {
+        names.append(text.section(QLatin1Char('('), 0, 0));
+    }
+    return names;
+}
+
+void DialogFixture::During(const char* operation, std::function<void()> action)
+{
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, [=](int index) {
+        if (host.Journal().Entries().at(index).operation == QLatin1String(operation)) {
+            QObject::disconnect(*connection);
+            action();
+        }
+    });
+}
+
+void DialogFixture::Click(const char* buttonName) const
+{
+    QTest::mouseClick(Find<QPushButton>(buttonName), Qt::LeftButton);
+}
+
+bool DialogFixture::IsEnabled(const QString& name) const
+{
+    const auto* widget = Child<QWidget>(dialog, name.toLatin1().constData());
+    return widget->isEnabledTo(widget->parentWidget());
+}
+
+QStringList DialogFixture::EnabledOf(const QStringList& names) const
+{
+    QStringList enabled;
+    for (const QString& name : names) {
+        if (IsEnabled(name)) {
+            enabled.append(name);
+        }
+    }
+    return enabled;
+}
+
+namespace Journal {
+
+QString Message(const QString& text)
+{
+    return QStringLiteral("ShowMessageBox(\"%1\", \"[Physics Soft Cloth Section] Movira 6\", "
+                          "MV::CSoftClothMaterialDlg, 2, 1024, 0) -> 1024")
+        .arg(text);
+}
+
+QString Refresh()
+{
+    return QStringLiteral("IsPhysicsActive(\"Hero\", 3, false) -> 0");
+}
+
+QString RefreshScene()
+{
+    return QStringLiteral("RefreshScene(0) -> 0");
+}
+
+} // namespace Journal

@@ -1,0 +1,303 @@
+#include "tests/support/TestCase.h"
+#include "tests/unit/sections/SliderWindow.h"
+
+#include <QHBoxLayout>
+#include <QImage>
+#include <QLabel>
+
+using MV::CMultiLevelSlider;
+using MV::SliderLevel;
+
+/// What the slider draws, pixel by pixel.
+class TestMultiLevelSliderPainting : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stateChoosesTheImages_data();
+    void stateChoosesTheImages();
+    void ownImageReplacesAllStates_data();
+    void ownImageReplacesAllStates();
+    void missingHoverImageShowsTheNormalOne();
+    void laterHandleLiesOnTop();
+    void ownHeightMovesTheImageOnly();
+    void missingRoomPutsHandlesToTheLeft();
+    void nothingIsDrawnBeforeInit();
+    void nothingIsDrawnAfterAFailedInit();
+    void doubleResolutionIsDrawnPixelByPixel();
+    void labelStandsBesideItsHandle();
+    void paintingALabelComesToAnEnd();
+};
+
+namespace {
+
+const QColor lineColor(10, 200, 30);
+const QColor disabledLineColor(70, 70, 70);
+
+/// The expected picture, built without a painter.
+class Canvas
+{
+public:
+    explicit Canvas(int width, int height = 30)
+        : m_image(width, height, QImage::Format_ARGB32_Premultiplied)
+    {
+        m_image.fill(Qt::transparent);
+    }
+
+    Canvas& Row(int left, int right, int y, const QColor& color)
+    {
+        for (int x = qMax(left, 0); x <= qMin(right, m_image.width() - 1); ++x) {
+            m_image.setPixelColor(x, y, color);
+        }
+        return *this;
+    }
+
+    Canvas& Image(int left, int top, const QPixmap& pixmap)
+    {
+        const QImage image = pixmap.toImage();
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (m_image.rect().contains(left + x, top + y)) {
+                    m_image.setPixelColor(left + x, top + y, image.pixelColor(x, y));
+                }
+            }
+        }
+        return *this;
+    }
+
+    const QImage& Result() const { return m_image; }
+
+private:
+    QImage m_image;
+};
+
+/// Compares pixel by pixel and names the first that differs.
+void Compare(const QImage& actual, const QImage& expected)
+{
+    QCOMPARE(actual.size(), expected.size());
+    for (int y = 0; y < expected.height(); ++y) {
+        for (int x = 0; x < expected.width(); ++x) {
+            QVERIFY2(actual.pixel(x, y) == expected.pixel(x, y),
+                     qPrintable(QStringLiteral("pixel %1, %2 is %3 instead of %4")
+                                    .arg(x)
+                                    .arg(y)
+                                    .arg(actual.pixelColor(x, y).name(QColor::HexArgb),
+                                         expected.pixelColor(x, y).name(QColor::HexArgb))));
+        }
+    }
+}
+
+const QColor normal = Qt::blue;
+const QColor selected = Qt::red;
+const QColor hover = Qt::cyan;
+const QColor disabled = Qt::darkGray;
+
+} // namespace
+
+void TestMultiLevelSliderPainting::stateChoosesTheImages_data()
+{
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("useSelected");
+    QTest::addColumn<int>("selectedIndex");
+    QTest::addColumn<int>("hoverAt");
+    QTest::addColumn<QColor>("first");
+    QTest::addColumn<QColor>("second");
+    QTest::newRow("first selected") << true << true << 0 << 50 << selected << normal;
+    QTest::newRow("second selected") << true << true << 1 << 50 << normal << selected;
+    QTest::newRow("none selected") << true << true << 7 << 50 << normal << normal;
+    QTest::newRow("selection not shown") << true << false << 0 << 50 << normal << normal;
+    QTest::newRow("hover") << true << true << 0 << 95 << selected << hover;
+    QTest::newRow("selected wins over hover") << true << true << 1 << 95 << normal << selected;
+    QTest::newRow("hover where the selection is not shown") << true << false << 0 << 3 << hover << normal;
+    QTest::newRow("disabled") << false << true << 0 << 50 << disabled << disabled;
+    QTest::newRow("disabled wins over hover") << false << true << 0 << 95 << disabled << disabled;
+}
+
+void TestMultiLevelSliderPainting::stateChoosesTheImages()
+{
+    QFETCH(bool, enabled);
+    QFETCH(bool, useSelected);
+    QFETCH(int, selectedIndex);
+    QFETCH(int, hoverAt);
+    QFETCH(QColor, first);
+    QFETCH(QColor, second);
+    SliderSetup setup;
+    setup.useSelected = useSelected;
+    SliderWindow window(setup);
+    window.slider.SetSelectedIndex(std::size_t(selectedIndex));
+    window.Move(hoverAt);
+    window.slider.setEnabled(enabled);
+
+    Canvas expected(100);
+    expected.Row(4, 95, 5, enabled ? lineColor : disabledLineColor);
+    expected.Image(0, 8, MakePixmap(first)).Image(91, 8, MakePixmap(second));
+    Compare(window.Picture(), expected.Result());
+}
+
+void TestMultiLevelSliderPainting::ownImageReplacesAllStates_data()
+{
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<int>("selectedIndex");
+    QTest::addColumn<int>("hoverAt");
+    QTest::newRow("normal") << true << 0 << 50;
+    QTest::newRow("selected") << true << 1 << 50;
+    QTest::newRow("hover") << true << 0 << 95;
+    QTest::newRow("disabled") << false << 0 << 50;
+}
+
+void TestMultiLevelSliderPainting::ownImageReplacesAllStates()
+{
+    QFETCH(bool, enabled);
+    QFETCH(int, selectedIndex);
+    QFETCH(int, hoverAt);
+    const QPixmap own = MakePixmap(Qt::yellow, {5, 12});
+    SliderSetup setup;
+    setup.useSelected = false;
+    setup.levels[1].pixmap = &own;
+    SliderWindow window(setup);
+    window.slider.SetSelectedIndex(std::size_t(selectedIndex));
+    window.Move(hoverAt);
+    window.slider.setEnabled(enabled);
+
+    Canvas expected(100);
+    expected.Row(4, 95, 5, enabled ? lineColor : disabledLineColor);
+    expected.Image(0, 8, MakePixmap(enabled ? normal : disabled)).Image(91, 8, own);
+    Compare(window.Picture(), expected.Result());
+}
+
+void TestMultiLevelSliderPainting::missingHoverImageShowsTheNormalOne()
+{
+    SliderSetup setup;
+    setup.hover.clear();
+    SliderWindow window(setup);
+    window.Move(95);
+    Canvas expected(100);
+    expected.Row(4, 95, 5, lineColor);
+    expected.Image(0, 8, MakePixmap(selected)).Image(91, 8, MakePixmap(normal));
+    Compare(window.Picture(), expected.Result());
+}
+
+void TestMultiLevelSliderPainting::laterHandleLiesOnTop()
+{
+    SliderSetup setup;
+    setup.allowCross = true;
+    setup.levels = Levels({5, 5, 4});
+    SliderWindow window(setup);
+    Canvas expected(100);
+    expected.Row(4, 95, 5, lineColor);
+    expected.Image(46, 8, MakePixmap(selected)).Image(46, 8, MakePixmap(normal)).Image(36, 8, MakePixmap(normal));
+    Compare(window.Picture(), expected.Result());
+}
+
+void TestMultiLevelSliderPainting::ownHeightMovesTheImageOnly()
+{
+    SliderSetup setup;
+    setup.levels[1].customY = true;
+    setup.levels[1].yOffset = 14;
+    setup.levels[0].yOffset = 14;
+    SliderWindow window(setup);
+    Canvas expected(100);
+    expected.Row(4, 95, 5, lineColor);
+    expected.Image(0, 8, MakePixmap(selected)).Image(91, 16, MakePixmap(normal));
+    Compare(window.Picture(), expected.Result());
+
+    // The mouse still finds it where all handles are.
+    window.Press(95, 9);
+    QCOMPARE(window.slider.SelectedIndex(), std::size_t(1));
+    window.Release(95, 9);
+}
+
+void TestMultiLevelSliderPainting::missingRoomPutsHandlesToTheLeft()
+{
+    SliderWindow window(SliderSetup(), 9);
+    Canvas expected(9);
+    expected.Row(4, 4, 5, lineColor);
+    expected.Image(0, 8, MakePixmap(selected)).Image(0, 8, MakePixmap(normal));
+    Compare(window.Picture(), expected.Result());
+}
+
+void TestMultiLevelSliderPainting::nothingIsDrawnBeforeInit()
+{
+    CMultiLevelSlider slider;
+    slider.resize(100, 30);
+    QImage picture(100, 30, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    slider.render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
+    Compare(picture, Canvas(100).Result());
+}
+
+void TestMultiLevelSliderPainting::nothingIsDrawnAfterAFailedInit()
+{
+    SliderSetup setup;
+    setup.disabled.clear();
+    SliderWindow window(setup);
+    Compare(window.Picture(), Canvas(100).Result());
+}
+
+void TestMultiLevelSliderPainting::doubleResolutionIsDrawnPixelByPixel()
+{
+    SliderSetup setup;
+    setup.normal = MakeImage(normal, {8, 8}, 2);
+    setup.selected = MakeImage(selected, {8, 8}, 2);
+    setup.hover.clear();
+    SliderWindow window(setup);
+    const QImage picture = window.Picture(2);
+    Canvas expected(200, 60);
+    expected.Image(0, 16, MakePixmap(selected, {8, 8}, 2)).Image(182, 16, MakePixmap(normal, {8, 8}, 2));
+    // The line stays a hair line: of a logical pixel it takes one row.
+    Compare(picture.copy(0, 14, 200, 46), expected.Result().copy(0, 14, 200, 46));
+}
+
+void TestMultiLevelSliderPainting::labelStandsBesideItsHandle()
+{
+    SliderSetup setup;
+    auto* label = new QLabel(QStringLiteral("7"));
+    setup.levels[1].label = label;
+    setup.levels[1].yOffset = 3;
+    setup.levels[1].labelXOffset = -20;
+    setup.levels[1].labelYOffset = 4;
+    setup.levels[1].labelWidth = 15;
+    setup.levels[1].labelHeight = 12;
+    SliderWindow window(setup);
+    window.Picture();
+    window.Picture();
+    QCOMPARE(label->parentWidget(), &window.slider);
+    QCOMPARE(label->geometry(), QRect(91 - 20, 3 + 2 + 4, 15, 12));
+    QCOMPARE(label->alignment(), Qt::AlignCenter);
+    QCOMPARE(window.slider.layout()->count(), 1);
+    QCOMPARE(window.slider.layout()->itemAt(0)->widget(), label);
+
+    delete label;
+    window.Picture();
+}
+
+void TestMultiLevelSliderPainting::paintingALabelComesToAnEnd()
+{
+    class PaintCounter : public QObject
+    {
+    public:
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return QObject::eventFilter(watched, event);
+        }
+        int count = 0;
+    };
+    SliderSetup setup;
+    setup.levels[1].label = new QLabel(QStringLiteral("7"));
+    setup.levels[1].labelWidth = 15;
+    setup.levels[1].labelHeight = 12;
+    SliderWindow window(setup);
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTest::qWait(50);
+    PaintCounter paints;
+    window.slider.installEventFilter(&paints);
+    QTest::qWait(100);
+    QCOMPARE(paints.count, 0);
+    window.slider.update();
+    QTest::qWait(100);
+    QVERIFY(paints.count >= 1 && paints.count <= 2);
+}
+
+QTEST_MAIN(TestMultiLevelSliderPainting)
+#include "tst_multi_level_slider_painting.moc"

@@ -1,0 +1,399 @@
+#include "sections/SoftClothPropertySection.h"
+#include "tests/support/Children.h"
+#include "tests/support/TestCase.h"
+#include "tests/unit/sections/SectionFixture.h"
+
+using Record = MV::SoftClothPropertyData;
+using Section = MV::CSoftClothPropertySection;
+
+Q_DECLARE_METATYPE(MV::SoftClothPropertyData)
+
+/// The property section's part of a profile: the sixteen keys, loaded and saved.
+class TestPropertyProfile : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void loadReadsEachKey_data();
+    void loadReadsEachKey();
+    void missingKeyCountsAsZero_data();
+    void missingKeyCountsAsZero();
+    void loadWritesTheWholeRecordOnce();
+    void loadIgnoresAFailedWrite();
+    void loadedBoxStaysInItsRange_data();
+    void loadedBoxStaysInItsRange();
+    void saveWritesSixteenKeys();
+    void saveTakesBoxesAndHostApart();
+    void saveWithoutHostRecordWritesDefaults();
+    void everyWholeBoxValueComesBack_data();
+    void everyWholeBoxValueComesBack();
+    void secondSectionGetsTheSameRecord();
+    void statedLossesAreLost_data();
+    void statedLossesAreLost();
+};
+
+namespace {
+
+const char* const group = "Property";
+const char* const propertyWrite = "Edit.SetSoftClothProperty";
+
+/// A profile with a value of its own for every key.
+const QStringList fullProfile{
+    QStringLiteral("Mass=16"),
+    QStringLiteral("Friction=0.1"),
+    QStringLiteral("Damping=0.2"),
+    QStringLiteral("Drag=0.3"),
+    QStringLiteral("Solver_Frequency=120"),
+    QStringLiteral("Tether_Limit=1.25"),
+    QStringLiteral("Tether_Stiffness=51"),
+    QStringLiteral("Stiffness=75"),
+    QStringLiteral("Bending=100"),
+    QStringLiteral("Linear_Inertia_Scale=7"),
+    QStringLiteral("Angular_Inertia_Scale=15"),
+    QStringLiteral("Centrifugal_Inertia_Scale=9"),
+    QStringLiteral("Stiffness_Frequency=12.5"),
+    QStringLiteral("Collision_Mass_Scale=19.5"),
+    QStringLiteral("Sleep_Linear_Velocity=0.06"),
+    QStringLiteral("Wake_Counter_Value=0.6"),
+};
+
+/// The record that it stands for: the host's scale, in the order of the record's fields.
+const Record fullRecord{16,   120,  0.5F, 1.25F, 0.1F,  0.2F,  0.3F, 0.25F, 12.5F,
+                        0.0F, 0.7F, 1.5F, 0.9F,  19.5F, 0.06F, 0.6F, {}};
+
+/// What a profile without any key stands for.
+const Record emptyRecord{0, 0, 1.01F, 0.0F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F, 1.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F, {}};
+
+/// A file with these lines as the settings store writes it: sorted, below the group's name.
+QStringList SavedAs(QStringList lines)
+{
+    lines.sort();
+    lines.prepend(QStringLiteral("[Property]"));
+    return lines;
+}
+
+struct Key
+{
+    const char* key;
+    const char* box;
+    double shown;
+};
+
+/// Each key with the box that shows it, if one does, and what that shows of the full profile.
+constexpr Key keys[]{
+    {"Mass", "qtMassEXSpinBox", 16},
+    {"Friction", "qtFricionDoubleEXSpinBox", 0.1},
+    {"Damping", "qtDampingDoubleEXSpinBox", 0.2},
+    {"Drag", "qtDragDoubleEXSpinBox", 0.3},
+    {"Solver_Frequency", "qtSolverFrequencyEXSpinBox", 120},
+    {"Tether_Limit", "qtTetherLimitDoubleEXSpinBox", 1.25},
+    {"Tether_Stiffness", "qtTetherStiffnessCombospinbox", 51},
+    {"Stiffness", "qtStiffnessCombospinbox", 75},
+    {"Bending", "qtBendingCombospinbox", 100},
+    {"Linear_Inertia_Scale", "qtInertiaScaleCombospinbox", 7},
+    {"Angular_Inertia_Scale", "", 0},
+    {"Centrifugal_Inertia_Scale", "", 0},
+    {"Stiffness_Frequency", "", 0},
+    {"Collision_Mass_Scale", "", 0},
+    {"Sleep_Linear_Velocity", "", 0},
+    {"Wake_Counter_Value", "", 0},
+};
+
+/// Takes the field of \p key from \p from over into \p to.
+void TakeField(Record& to, const Record& from, const QByteArray& key)
+{
+    const auto take = [&](const char* name, auto field) {
+        if (key == name) {
+            to.*field = from.*field;
+        }
+    };
+    take("Mass", &Record::mass);
+    take("Friction", &Record::friction);
+    take("Damping", &Record::damping);
+    take("Drag", &Record::drag);
+    take("Solver_Frequency", &Record::solverFrequency);
+    take("Tether_Limit", &Record::tetherLimit);
+    take("Tether_Stiffness", &Record::tetherStiffness);
+    take("Stiffness", &Record::stiffness);
+    take("Bending", &Record::bending);
+    take("Linear_Inertia_Scale", &Record::linearInertiaScale);
+    take("Angular_Inertia_Scale", &Record::angularInertiaScale);
+    take("Centrifugal_Inertia_Scale", &Record::centrifugalInertiaScale);
+    take("Stiffness_Frequency", &Record::stiffnessFrequency);
+    take("Collision_Mass_Scale", &Record::collisionMassScale);
+    take("Sleep_Linear_Velocity", &Record::sleepLinearVelocity);
+    take("Wake_Counter_Value", &Record::wakeCounterValue);
+}
+
+} // namespace
+
+void TestPropertyProfile::loadReadsEachKey_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<Record>("sent");
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<double>("shown");
+    for (int i = 0; i < fullProfile.size(); ++i) {
+        Record sent = emptyRecord;
+        TakeField(sent, fullRecord, keys[i].key);
+        QTest::newRow(keys[i].key) << fullProfile.at(i) << sent << QByteArray(keys[i].box) << keys[i].shown;
+    }
+    const auto row = [](const char* name, const char* line, auto field, auto value, const char* box, double shown) {
+        Record sent = emptyRecord;
+        sent.*field = value;
+        QTest::newRow(name) << QString::fromLatin1(line) << sent << QByteArray(box) << shown;
+    };
+    row("negative mass is no number", "Mass=-5", &Record::mass, 0, "qtMassEXSpinBox", 0);
+    row("decimal mass is no number", "Mass=1.5", &Record::mass, 0, "qtMassEXSpinBox", 0);
+    row("largest unsigned mass", "Mass=4294967295", &Record::mass, 4294967295, "qtMassEXSpinBox", 0);
+    row("word", "Friction=much", &Record::friction, 0.0F, "qtFricionDoubleEXSpinBox", 0);
+    row("single precision", "Friction=0.123456789", &Record::friction, 0.123456789F, "qtFricionDoubleEXSpinBox", 0.123);
+    row("tenths of an angular scale", "Angular_Inertia_Scale=12.5", &Record::angularInertiaScale, 1.25F, "", 0);
+    row("decimal linear scale is no number", "Linear_Inertia_Scale=12.5", &Record::linearInertiaScale, 0.0F,
+        "qtInertiaScaleCombospinbox", 0);
+}
+
+void TestPropertyProfile::loadReadsEachKey()
+{
+    QFETCH(QString, line);
+    QFETCH(Record, sent);
+    QFETCH(QByteArray, box);
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    fixture.Load(section, group, {line});
+    COMPARE_RECORDS(fixture, fixture.Cloth().property, sent);
+    if (!box.isEmpty()) {
+        QTEST(Shown(Child<QWidget>(&section, box)).toDouble(), "shown");
+    }
+}
+
+void TestPropertyProfile::missingKeyCountsAsZero_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < fullProfile.size(); ++i) {
+        QTest::newRow(keys[i].key) << i;
+    }
+}
+
+void TestPropertyProfile::missingKeyCountsAsZero()
+{
+    QFETCH(int, index);
+    Record expected = fullRecord;
+    TakeField(expected, emptyRecord, keys[index].key);
+    QStringList lines = fullProfile;
+    lines.removeAt(index);
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    section.UpdateUi();
+
+    fixture.Load(section, group, lines);
+
+    COMPARE_RECORDS(fixture, fixture.Cloth().property, expected);
+    if (*keys[index].box != '\0') {
+        const auto* box = Child<QWidget>(&section, keys[index].box);
+        QCOMPARE(Shown(box).toDouble(), box->property("minimum").toDouble());
+    }
+}
+
+void TestPropertyProfile::loadWritesTheWholeRecordOnce()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    fixture.Select(1);
+    fixture.plugin.Selection().affectAllMaterials = true;
+    const BoxSignals boxSignals(section);
+
+    fixture.Load(section, group, fullProfile);
+
+    QCOMPARE(fixture.TakeCalls(),
+             QStringList(fixture.Call(propertyWrite,
+                                      {QStringLiteral("19"), fixture.Text(fullRecord), QStringLiteral("true")})));
+    QCOMPARE(boxSignals.Count(), 0);
+    for (int material : {0, 1, 2}) {
+        COMPARE_RECORDS(fixture, fixture.Cloth(material).property, fullRecord);
+    }
+}
+
+void TestPropertyProfile::loadIgnoresAFailedWrite()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    fixture.host.Faults().FailOperation(QStringLiteral("SetSoftClothProperty"), BF::Results::Refused);
+    fixture.Load(section, group, fullProfile);
+    QCOMPARE(Shown(Child<QWidget>(&section, "qtMassEXSpinBox")).toInt(), 16);
+    COMPARE_RECORDS(fixture, fixture.Cloth().property, Record());
+}
+
+void TestPropertyProfile::loadedBoxStaysInItsRange_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<double>("shown");
+    QTest::addColumn<Record>("sent");
+    const auto row = [](const char* line, const char* box, double shown, auto field, auto value) {
+        Record sent = emptyRecord;
+        sent.*field = value;
+        QTest::newRow(line) << QString::fromLatin1(line) << QByteArray(box) << shown << sent;
+    };
+    row("Mass=20000", "qtMassEXSpinBox", 10000, &Record::mass, 20000);
+    row("Solver_Frequency=5000", "qtSolverFrequencyEXSpinBox", 1000, &Record::solverFrequency, 5000);
+    row("Friction=3", "qtFricionDoubleEXSpinBox", 1, &Record::friction, 3.0F);
+    row("Drag=-1", "qtDragDoubleEXSpinBox", 0, &Record::drag, -1.0F);
+    row("Tether_Limit=50", "qtTetherLimitDoubleEXSpinBox", 10, &Record::tetherLimit, 50.0F);
+    row("Tether_Stiffness=201", "qtTetherStiffnessCombospinbox", 101, &Record::tetherStiffness, -1.0F);
+    row("Stiffness=150", "qtStiffnessCombospinbox", 100, &Record::stiffness, -0.5F);
+    row("Bending=-100", "qtBendingCombospinbox", 0, &Record::bending, 2.0F);
+    row("Linear_Inertia_Scale=50", "qtInertiaScaleCombospinbox", 20, &Record::linearInertiaScale, 5.0F);
+}
+
+void TestPropertyProfile::loadedBoxStaysInItsRange()
+{
+    QFETCH(QString, line);
+    QFETCH(QByteArray, box);
+    QFETCH(Record, sent);
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    fixture.Load(section, group, {line});
+    QTEST(Shown(Child<QWidget>(&section, box)).toDouble(), "shown");
+    COMPARE_RECORDS(fixture, fixture.Cloth().property, sent);
+}
+
+void TestPropertyProfile::saveWritesSixteenKeys()
+{
+    SectionFixture fixture;
+    fixture.Cloth().property = fullRecord;
+    Section& section = fixture.Make<Section>();
+    section.UpdateUi();
+    fixture.TakeCalls();
+
+    const QStringList lines = fixture.Saved(section, group);
+
+    QStringList expected = fullProfile;
+    // What the host holds is widened to double with all its digits.
+    expected[14] = QStringLiteral("Sleep_Linear_Velocity=0.05999999865889549");
+    expected[15] = QStringLiteral("Wake_Counter_Value=0.6000000238418579");
+    QCOMPARE(lines, SavedAs(expected));
+    QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call("Scene.GetSoftClothProperty", {fixture.Text(fullRecord)})));
+}
+
+void TestPropertyProfile::saveTakesBoxesAndHostApart()
+{
+    SectionFixture fixture;
+    fixture.Cloth().property = fullRecord;
+    Section& section = fixture.Make<Section>();
+    section.UpdateUi();
+    // The boxes show what was read; the host moves on.
+    fixture.Cloth().property = Record();
+
+    const QStringList lines = fixture.Saved(section, group);
+
+    QCOMPARE(lines,
+             SavedAs(fullProfile.mid(0, 9) +
+                     QStringList{QStringLiteral("Linear_Inertia_Scale=10"), QStringLiteral("Angular_Inertia_Scale=10"),
+                                 QStringLiteral("Centrifugal_Inertia_Scale=10"),
+                                 QStringLiteral("Stiffness_Frequency=10"), QStringLiteral("Collision_Mass_Scale=20"),
+                                 QStringLiteral("Sleep_Linear_Velocity=0.05000000074505806"),
+                                 QStringLiteral("Wake_Counter_Value=0.4000000059604645")}));
+}
+
+void TestPropertyProfile::saveWithoutHostRecordWritesDefaults()
+{
+    SectionFixture fixture;
+    fixture.Cloth().property = fullRecord;
+    Section& section = fixture.Make<Section>();
+    section.UpdateUi();
+    fixture.host.Faults().FailOperation(QStringLiteral("GetSoftClothProperty"), BF::Results::Refused);
+    const QStringList lines = fixture.Saved(section, group);
+    QVERIFY(lines.contains(QStringLiteral("Mass=16")));
+    QVERIFY(lines.contains(QStringLiteral("Linear_Inertia_Scale=10")));
+    QVERIFY(lines.contains(QStringLiteral("Collision_Mass_Scale=20")));
+}
+
+void TestPropertyProfile::everyWholeBoxValueComesBack_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<QByteArray>("key");
+    for (const Key& key : keys) {
+        if (QByteArray(key.box).endsWith("Combospinbox")) {
+            QTest::newRow(key.key) << QByteArray(key.box) << QByteArray(key.key);
+        }
+    }
+}
+
+void TestPropertyProfile::everyWholeBoxValueComesBack()
+{
+    QFETCH(QByteArray, box);
+    QFETCH(QByteArray, key);
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    auto* widget = Child<QWidget>(&section, box);
+    for (int value = widget->property("minimum").toInt(); value <= widget->property("maximum").toInt(); ++value) {
+        const QString line = QLatin1String(key) + QLatin1Char('=') + QString::number(value);
+        fixture.Load(section, group, {line});
+        QCOMPARE(section.UpdateUi(), BF::Results::Success);
+        QCOMPARE(Shown(widget).toInt(), value);
+        QVERIFY2(fixture.Saved(section, group).contains(line), qPrintable(line));
+    }
+}
+
+void TestPropertyProfile::secondSectionGetsTheSameRecord()
+{
+    SectionFixture fixture;
+    fixture.Cloth(0).property = fullRecord;
+    Section& first = fixture.Make<Section>();
+    first.UpdateUi();
+    QStringList lines = fixture.Saved(first, group);
+    lines.removeFirst();
+
+    fixture.Select(2);
+    Section& second = fixture.Make<Section>();
+    fixture.Load(second, group, lines);
+
+    COMPARE_RECORDS(fixture, fixture.Cloth(2).property, fullRecord);
+    for (const Key& key : keys) {
+        if (*key.box != '\0') {
+            QCOMPARE(Shown(Child<QWidget>(&second, key.box)), Shown(Child<QWidget>(&first, key.box)));
+        }
+    }
+}
+
+void TestPropertyProfile::statedLossesAreLost_data()
+{
+    QTest::addColumn<Record>("saved");
+    QTest::addColumn<Record>("loaded");
+    const auto row = [](const char* name, auto field, float saved, float loaded) {
+        Record before;
+        before.*field = saved;
+        Record after;
+        after.*field = loaded;
+        QTest::newRow(name) << before << after;
+    };
+    row("linear scale below a tenth", &Record::linearInertiaScale, 1.25F, 1.2F);
+    row("angular scale below a tenth", &Record::angularInertiaScale, 0.99F, 0.9F);
+    row("centrifugal scale below a tenth", &Record::centrifugalInertiaScale, 1.25F, 1.2F);
+    row("stiffness below a percent", &Record::stiffness, 0.125F, 1.0F - 0.88F);
+    row("bending below a percent", &Record::bending, 0.125F, 1.0F - 0.88F);
+    row("tether stiffness below a percent", &Record::tetherStiffness, 0.125F, 1.0F - 0.88F);
+    row("friction below the box's decimals", &Record::friction, 0.12345F, 0.123F);
+    row("stiffness frequency keeps its decimals", &Record::stiffnessFrequency, 12.345678F, 12.345678F);
+    row("collision mass scale keeps its decimals", &Record::collisionMassScale, 0.1F, 0.1F);
+    row("sleep velocity keeps its decimals", &Record::sleepLinearVelocity, 0.0123456F, 0.0123456F);
+    row("wake counter keeps its decimals", &Record::wakeCounterValue, 1.0F / 3.0F, 1.0F / 3.0F);
+}
+
+void TestPropertyProfile::statedLossesAreLost()
+{
+    QFETCH(Record, saved);
+    QFETCH(Record, loaded);
+    SectionFixture fixture;
+    fixture.Cloth().property = saved;
+    Section& section = fixture.Make<Section>();
+    section.UpdateUi();
+    QStringList lines = fixture.Saved(section, group);
+    lines.removeFirst();
+    fixture.Load(section, group, lines);
+    COMPARE_RECORDS(fixture, fixture.Cloth().property, loaded);
+}
+
+QTEST_MAIN(TestPropertyProfile)
+#include "tst_property_profile.moc"

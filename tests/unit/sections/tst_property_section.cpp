@@ -1,0 +1,494 @@
+#include "sections/SoftClothPropertySection.h"
+#include "tests/support/Children.h"
+#include "tests/support/TestCase.h"
+#include "tests/unit/sections/FormChecks.h"
+#include "tests/unit/sections/SectionFixture.h"
+
+#include <BFQtCustomWidgetPluginU/QComboSpinBox.h>
+#include <BFQtCustomWidgetPluginU/QDoubleSpinBoxEx.h>
+#include <BFQtCustomWidgetPluginU/QSpinBoxEx.h>
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <QSlider>
+
+using Record = MV::SoftClothPropertyData;
+using Section = MV::CSoftClothPropertySection;
+
+Q_DECLARE_METATYPE(MV::SoftClothPropertyData)
+
+/// The property section's form, refresh and edits.
+class TestPropertySection : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void componentFindsEveryObjectInOrder();
+    void formHasTypedObjects_data();
+    void formHasTypedObjects();
+    void boxesHaveSensibleRanges_data();
+    void boxesHaveSensibleRanges();
+    void boxesExplainThemselves();
+    void tabGoesThroughTheBoxesFromTopToBottom();
+    void sectionStandsAtItsPlace();
+    void nothingHappensWithoutAHost();
+    void missingFormIsReturned();
+    void recordHasTheHostsDefaults_data();
+    void recordHasTheHostsDefaults();
+    void commitWritesOneField_data();
+    void commitWritesOneField();
+    void typingAloneWritesNothing();
+    void leavingABoxCommits();
+    void draggingASliderWritesOnce();
+    void commitReadsTheSelectionAtThatMoment();
+    void commitWithoutSelectionIsSentAllTheSame();
+    void failedWriteChangesNothingElse();
+    void inertiaWritesAllThreeScales();
+    void refreshShowsTheHostsValue_data();
+    void refreshShowsTheHostsValue();
+    void refreshReadsTwiceAndWritesNothing();
+    void nothingShownDisablesTheGroupBox_data();
+    void nothingShownDisablesTheGroupBox();
+    void failedReadLeavesEverything_data();
+    void failedReadLeavesEverything();
+    void refreshEnablesNothing();
+    void enableUiReachesTheGroupBox();
+};
+
+namespace {
+
+const char* const propertyRead = "Scene.GetSoftClothProperty";
+const char* const propertyWrite = "Edit.SetSoftClothProperty";
+const char* const isActive = "Scene.IsSoftClothActive";
+
+QStringList Arguments(const SectionFixture& fixture, int type, const Record& record, bool all = false)
+{
+    return {QString::number(type), fixture.Text(record), fixture.Text(all)};
+}
+
+} // namespace
+
+void TestPropertySection::componentFindsEveryObjectInOrder()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    CSoftClothPropertyUiComponent component;
+    FormChecks::Component(component, *Child<QWidget>(&section, "SoftClothProperty"),
+                          "verticalLayout_9 verticalLayout_8 verticalLayout_7 verticalLayout_6 gridLayout "
+                          "verticalLayout verticalLayout_2 qtBendingCombospinbox qtInertiaScaleCombospinbox "
+                          "qtStiffnessCombospinbox qtTetherStiffnessCombospinbox qtDampingDoubleEXSpinBox "
+                          "qtDragDoubleEXSpinBox qtFricionDoubleEXSpinBox qtTetherLimitDoubleEXSpinBox "
+                          "qtSectionGroupBox label_10 label_3 label_4 label_5 label_7 label_9 qtExpandPushButton "
+                          "qtMassEXSpinBox qtSolverFrequencyEXSpinBox SoftClothProperty");
+}
+
+void TestPropertySection::formHasTypedObjects_data()
+{
+    FormChecks::AddClassColumns();
+    using FormChecks::AddClassRow;
+    AddClassRow("QVBoxLayout", "verticalLayout_9 verticalLayout_8 verticalLayout_7 verticalLayout_6 verticalLayout "
+                               "verticalLayout_2");
+    AddClassRow("QGridLayout", "gridLayout");
+    AddClassRow("QComboSpinBox", "qtBendingCombospinbox qtInertiaScaleCombospinbox qtStiffnessCombospinbox "
+                                 "qtTetherStiffnessCombospinbox");
+    AddClassRow("QDoubleSpinBoxEx", "qtDampingDoubleEXSpinBox qtDragDoubleEXSpinBox qtFricionDoubleEXSpinBox "
+                                    "qtTetherLimitDoubleEXSpinBox");
+    AddClassRow("QSpinBoxEx", "qtMassEXSpinBox qtSolverFrequencyEXSpinBox");
+    AddClassRow("QGroupBox", "qtSectionGroupBox");
+    AddClassRow("QLabel", "label_10 label_3 label_4 label_5 label_7 label_9");
+    AddClassRow("QPushButton", "qtExpandPushButton");
+    AddClassRow("QWidget", "SoftClothProperty");
+}
+
+void TestPropertySection::formHasTypedObjects()
+{
+    SectionFixture fixture;
+    FormChecks::Classes(fixture.Make<Section>());
+}
+
+void TestPropertySection::boxesHaveSensibleRanges_data()
+{
+    FormChecks::AddRangeColumns();
+    QTest::newRow("mass") << QByteArray("qtMassEXSpinBox") << 0.0 << 10000.0 << 1.0 << QStringLiteral(" kg");
+    QTest::newRow("solver frequency") << QByteArray("qtSolverFrequencyEXSpinBox") << 1.0 << 1000.0 << 10.0
+                                      << QStringLiteral(" Hz");
+    QTest::newRow("friction") << QByteArray("qtFricionDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
+    QTest::newRow("damping") << QByteArray("qtDampingDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
+    QTest::newRow("drag") << QByteArray("qtDragDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
+    QTest::newRow("tether limit") << QByteArray("qtTetherLimitDoubleEXSpinBox") << 0.0 << 10.0 << 0.05
+                                  << QStringLiteral("");
+    QTest::newRow("stiffness") << QByteArray("qtStiffnessCombospinbox") << 0.0 << 100.0 << 1.0 << QStringLiteral(" %");
+    QTest::newRow("bending") << QByteArray("qtBendingCombospinbox") << 0.0 << 100.0 << 1.0 << QStringLiteral(" %");
+    QTest::newRow("tether stiffness") << QByteArray("qtTetherStiffnessCombospinbox") << 1.0 << 101.0 << 1.0
+                                      << QStringLiteral("");
+    QTest::newRow("inertia, in tenths") << QByteArray("qtInertiaScaleCombospinbox") << 0.0 << 20.0 << 1.0
+                                        << QStringLiteral("");
+}
+
+void TestPropertySection::boxesHaveSensibleRanges()
+{
+    SectionFixture fixture;
+    FormChecks::Range(fixture.Make<Section>());
+}
+
+void TestPropertySection::boxesExplainThemselves()
+{
+    SectionFixture fixture;
+    FormChecks::Help(fixture.Make<Section>(), 10);
+}
+
+void TestPropertySection::tabGoesThroughTheBoxesFromTopToBottom()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    QVERIFY(fixture.Show(section));
+    FormChecks::TabOrder(section, "qtExpandPushButton qtMassEXSpinBox qtSolverFrequencyEXSpinBox "
+                                  "qtFricionDoubleEXSpinBox qtDampingDoubleEXSpinBox qtDragDoubleEXSpinBox "
+                                  "qtTetherLimitDoubleEXSpinBox qtTetherStiffnessCombospinbox "
+                                  "qtStiffnessCombospinbox qtBendingCombospinbox qtInertiaScaleCombospinbox");
+}
+
+void TestPropertySection::sectionStandsAtItsPlace()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    QCOMPARE(fixture.initialised, BF::Results::Success);
+    QCOMPARE(section.GetSectionPage(), 4);
+    QCOMPARE(section.GetSectionOrder(), 16);
+    QCOMPARE(section.GetSectionApplications(), 7);
+    QCOMPARE(section.GetSectionWidget(), &section);
+    QVERIFY(section.AbleToShowSection());
+    QVERIFY(section.isHidden());
+    section.SetSectionExpandState(false);
+    QVERIFY(Child<QGroupBox>(&section, "qtSectionGroupBox")->isHidden());
+    QVERIFY(!Child<QPushButton>(&section, "qtExpandPushButton")->isChecked());
+}
+
+void TestPropertySection::nothingHappensWithoutAHost()
+{
+    SectionFixture fixture;
+    Section section(&fixture.plugin);
+    QCOMPARE(section.Init(QString(), QString(), nullptr), BF::Results::InvalidArgument);
+    QVERIFY(section.children().isEmpty());
+    QCOMPARE(section.UpdateUi(), BF::Results::InvalidArgument);
+    QCOMPARE(fixture.TakeCalls(), QStringList());
+}
+
+void TestPropertySection::missingFormIsReturned()
+{
+    Host::HostApplication host;
+    MV::CPhysicsSoftClothPlugin plugin;
+    Section section(&plugin);
+    ExpectWarning(QStringLiteral("SoftClothProperty.ui"));
+    QCOMPARE(section.Init(QString(), QString(), &host), BF::Results::ResourceFailure);
+    QVERIFY(!section.AbleToShowSection());
+}
+
+void TestPropertySection::recordHasTheHostsDefaults_data()
+{
+    QTest::addColumn<double>("actual");
+    QTest::addColumn<double>("expected");
+    const Record record;
+    QTest::newRow("mass") << double(record.mass) << 1.0;
+    QTest::newRow("solver frequency") << double(record.solverFrequency) << 240.0;
+    QTest::newRow("tether stiffness") << double(record.tetherStiffness) << 1.0;
+    QTest::newRow("tether limit") << double(record.tetherLimit) << 1.0;
+    QTest::newRow("friction") << double(record.friction) << 0.5;
+    QTest::newRow("damping") << double(record.damping) << 0.5;
+    QTest::newRow("drag") << double(record.drag) << 0.0;
+    QTest::newRow("stiffness") << double(record.stiffness) << 1.0;
+    QTest::newRow("stiffness frequency") << double(record.stiffnessFrequency) << 10.0;
+    QTest::newRow("bending") << double(record.bending) << 1.0;
+    QTest::newRow("linear inertia") << double(record.linearInertiaScale) << 1.0;
+    QTest::newRow("angular inertia") << double(record.angularInertiaScale) << 1.0;
+    QTest::newRow("centrifugal inertia") << double(record.centrifugalInertiaScale) << 1.0;
+    QTest::newRow("collision mass scale") << double(record.collisionMassScale) << 20.0;
+    QTest::newRow("sleep velocity") << double(record.sleepLinearVelocity) << double(0.05F);
+    QTest::newRow("wake counter") << double(record.wakeCounterValue) << double(0.4F);
+    for (std::size_t i = 0; i < record.reserved.size(); ++i) {
+        QTest::addRow("reserved %d", int(i)) << double(record.reserved.at(i)) << 0.0;
+    }
+}
+
+void TestPropertySection::recordHasTheHostsDefaults()
+{
+    QFETCH(double, actual);
+    QTEST(actual, "expected");
+}
+
+void TestPropertySection::commitWritesOneField_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<Record>("sent");
+    const auto row = [](const char* name, const char* box, const char* typed, int type, auto field, auto value) {
+        Record sent;
+        sent.*field = value;
+        QTest::newRow(name) << QByteArray(box) << QString::fromLatin1(typed) << type << sent;
+    };
+    row("mass", "qtMassEXSpinBox", "16", 0, &Record::mass, 16);
+    row("solver frequency", "qtSolverFrequencyEXSpinBox", "120", 1, &Record::solverFrequency, 120);
+    row("tether stiffness", "qtTetherStiffnessCombospinbox", "51", 2, &Record::tetherStiffness, 0.5F);
+    row("loosest tether", "qtTetherStiffnessCombospinbox", "101", 2, &Record::tetherStiffness, 0.0F);
+    row("tether limit", "qtTetherLimitDoubleEXSpinBox", "1.25", 3, &Record::tetherLimit, 1.25F);
+    row("friction", "qtFricionDoubleEXSpinBox", "0.1", 4, &Record::friction, 0.1F);
+    row("damping", "qtDampingDoubleEXSpinBox", "0.2", 5, &Record::damping, 0.2F);
+    row("drag", "qtDragDoubleEXSpinBox", "0.3", 6, &Record::drag, 0.3F);
+    row("stiffness", "qtStiffnessCombospinbox", "75", 7, &Record::stiffness, 0.25F);
+    row("bending", "qtBendingCombospinbox", "100", 9, &Record::bending, 0.0F);
+}
+
+void TestPropertySection::commitWritesOneField()
+{
+    QFETCH(QByteArray, box);
+    QFETCH(QString, typed);
+    QFETCH(int, type);
+    QFETCH(Record, sent);
+    SectionFixture fixture;
+    // Another value than the defaults in every field, so that only the named one can change.
+    Record& stored = fixture.Cloth().property;
+    stored = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, {}};
+    Section& section = fixture.Make<Section>();
+
+    Enter(Child<QWidget>(&section, box), typed);
+
+    QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call(propertyWrite, Arguments(fixture, type, sent))));
+    Record expected{2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, {}};
+    const auto take = [&](auto field) {
+        if (sent.*field != Record().*field) {
+            expected.*field = sent.*field;
+        }
+    };
+    take(&Record::mass);
+    take(&Record::solverFrequency);
+    for (const auto field : {&Record::tetherStiffness, &Record::tetherLimit, &Record::friction, &Record::damping,
+                             &Record::drag, &Record::stiffness, &Record::bending}) {
+        take(field);
+    }
+    COMPARE_RECORDS(fixture, stored, expected);
+}
+
+void TestPropertySection::typingAloneWritesNothing()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    for (const char* name : {"qtMassEXSpinBox", "qtStiffnessCombospinbox"}) {
+        auto* box = Child<QWidget>(&section, name);
+        TypeInto(box, QStringLiteral("16"));
+        QCOMPARE(fixture.TakeCalls(), QStringList());
+        Enter(box, QStringLiteral("16"));
+        QCOMPARE(fixture.TakeCalls().size(), 1);
+    }
+}
+
+void TestPropertySection::leavingABoxCommits()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    QVERIFY(fixture.Show(section));
+    TypeInto(Child<QWidget>(&section, "qtMassEXSpinBox"), QStringLiteral("16"));
+    QCOMPARE(fixture.TakeCalls(), QStringList());
+
+    Child<QWidget>(&section, "qtDragDoubleEXSpinBox")->setFocus(Qt::TabFocusReason);
+
+    Record sent;
+    sent.mass = 16;
+    QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call(propertyWrite, Arguments(fixture, 0, sent))));
+}
+
+void TestPropertySection::draggingASliderWritesOnce()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    QVERIFY(fixture.Show(section));
+    auto* box = Child<QComboSpinBox>(&section, "qtBendingCombospinbox");
+    auto* slider = box->findChild<QSlider*>();
+
+    QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, QPoint(slider->width() / 3, slider->height() / 2));
+    const QPoint end(slider->width() + 100, slider->height() / 2);
+    QMouseEvent move(QEvent::MouseMove, end, slider->mapToGlobal(end), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(slider, &move);
+    QCOMPARE(box->Value(), 100);
+    QCOMPARE(fixture.TakeCalls(), QStringList());
+
+    QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, end);
+    Record sent;
+    sent.bending = 0.0F;
+    QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call(propertyWrite, Arguments(fixture, 9, sent))));
+}
+
+void TestPropertySection::commitReadsTheSelectionAtThatMoment()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    QCOMPARE(section.UpdateUi(), BF::Results::Success);
+    fixture.Select(2);
+    fixture.plugin.Selection().affectAllMaterials = true;
+    fixture.TakeCalls();
+
+    Enter(Child<QWidget>(&section, "qtMassEXSpinBox"), QStringLiteral("16"));
+
+    Record sent;
+    sent.mass = 16;
+    QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call(propertyWrite, Arguments(fixture, 0, sent, true))));
+}
+
+void TestPropertySection::commitWithoutSelectionIsSentAllTheSame()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    fixture.plugin.Selection().Clear();
+
+    Enter(Child<QWidget>(&section, "qtMassEXSpinBox"), QStringLiteral("16"));
+
+    Record sent;
+    sent.mass = 16;
+    QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call(propertyWrite, Arguments(fixture, 0, sent), "0x80000003")));
+}
+
+void TestPropertySection::failedWriteChangesNothingElse()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    fixture.host.Faults().FailOperation(QStringLiteral("SetSoftClothProperty"), BF::Results::Refused);
+
+    Enter(Child<QWidget>(&section, "qtMassEXSpinBox"), QStringLiteral("16"));
+
+    Record sent;
+    sent.mass = 16;
+    QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call(propertyWrite, Arguments(fixture, 0, sent), "0x80000006")));
+    QCOMPARE(Shown(Child<QWidget>(&section, "qtMassEXSpinBox")).toInt(), 16);
+    QCOMPARE(fixture.Cloth().property.mass, qint64(1));
+}
+
+void TestPropertySection::inertiaWritesAllThreeScales()
+{
+    SectionFixture fixture;
+    fixture.Cloth().property.angularInertiaScale = 0.2F;
+    fixture.Cloth().property.centrifugalInertiaScale = 0.3F;
+    Section& section = fixture.Make<Section>();
+    QCOMPARE(section.UpdateUi(), BF::Results::Success);
+    fixture.TakeCalls();
+
+    Enter(Child<QWidget>(&section, "qtInertiaScaleCombospinbox"), QStringLiteral("7"));
+
+    Record sent;
+    sent.linearInertiaScale = sent.angularInertiaScale = sent.centrifugalInertiaScale = 0.7F;
+    QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call(propertyWrite, Arguments(fixture, 13, sent))));
+    COMPARE_RECORDS(fixture, fixture.Cloth().property, sent);
+}
+
+void TestPropertySection::refreshShowsTheHostsValue_data()
+{
+    QTest::addColumn<Record>("record");
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<double>("shown");
+    const auto row = [](const char* name, auto field, auto value, const char* box, double shown) {
+        Record record;
+        record.*field = value;
+        QTest::newRow(name) << record << QByteArray(box) << shown;
+    };
+    row("mass", &Record::mass, 16, "qtMassEXSpinBox", 16);
+    row("low 32 bits of the mass", &Record::mass, (qint64(1) << 32) + 7, "qtMassEXSpinBox", 7);
+    row("mass above the range", &Record::mass, 20000, "qtMassEXSpinBox", 10000);
+    row("solver frequency", &Record::solverFrequency, 120, "qtSolverFrequencyEXSpinBox", 120);
+    row("friction", &Record::friction, 0.1F, "qtFricionDoubleEXSpinBox", 0.1);
+    row("damping", &Record::damping, 0.2F, "qtDampingDoubleEXSpinBox", 0.2);
+    row("drag", &Record::drag, 0.375F, "qtDragDoubleEXSpinBox", 0.375);
+    row("tether limit", &Record::tetherLimit, 1.5F, "qtTetherLimitDoubleEXSpinBox", 1.5);
+    row("stiffness 1", &Record::stiffness, 1.0F, "qtStiffnessCombospinbox", 0);
+    row("stiffness 0.25", &Record::stiffness, 0.25F, "qtStiffnessCombospinbox", 75);
+    row("stiffness 0", &Record::stiffness, 0.0F, "qtStiffnessCombospinbox", 100);
+    row("bending 1", &Record::bending, 1.0F, "qtBendingCombospinbox", 0);
+    row("bending half away from zero", &Record::bending, 0.125F, "qtBendingCombospinbox", 88);
+    row("bending above 1 is below the range", &Record::bending, 1.125F, "qtBendingCombospinbox", 0);
+    row("bending 0", &Record::bending, 0.0F, "qtBendingCombospinbox", 100);
+    row("tether stiffness 1", &Record::tetherStiffness, 1.0F, "qtTetherStiffnessCombospinbox", 1);
+    row("tether stiffness 0", &Record::tetherStiffness, 0.0F, "qtTetherStiffnessCombospinbox", 101);
+    row("inertia truncated", &Record::linearInertiaScale, 0.375F, "qtInertiaScaleCombospinbox", 3);
+    row("inertia in single precision", &Record::linearInertiaScale, 0.7F, "qtInertiaScaleCombospinbox", 7);
+    row("only the linear scale shows", &Record::angularInertiaScale, 0.5F, "qtInertiaScaleCombospinbox", 10);
+}
+
+void TestPropertySection::refreshShowsTheHostsValue()
+{
+    QFETCH(Record, record);
+    QFETCH(QByteArray, box);
+    SectionFixture fixture;
+    fixture.Cloth().property = record;
+    Section& section = fixture.Make<Section>();
+    QCOMPARE(section.UpdateUi(), BF::Results::Success);
+    QTEST(Shown(Child<QWidget>(&section, box)).toDouble(), "shown");
+}
+
+void TestPropertySection::refreshReadsTwiceAndWritesNothing()
+{
+    SectionFixture fixture;
+    Record& stored = fixture.Cloth().property;
+    stored = {16, 120, 0.5F, 1.25F, 0.1F, 0.2F, 0.3F, 0.25F, 11, 0.75F, 0.7F, 0.6F, 0.5F, 15, 16, 17, {}};
+    const Record before = stored;
+    Section& section = fixture.Make<Section>();
+    const BoxSignals boxSignals(section);
+
+    QCOMPARE(section.UpdateUi(), BF::Results::Success);
+
+    QCOMPARE(fixture.TakeCalls(), QStringList({fixture.Call(isActive, {QStringLiteral("true")}),
+                                               fixture.Call(propertyRead, {fixture.Text(before)})}));
+    QCOMPARE(boxSignals.Count(), 0);
+    COMPARE_RECORDS(fixture, stored, before);
+}
+
+void TestPropertySection::nothingShownDisablesTheGroupBox_data()
+{
+    FormChecks::AddNothingShownRows();
+}
+
+void TestPropertySection::nothingShownDisablesTheGroupBox()
+{
+    SectionFixture fixture;
+    fixture.Cloth().property.mass = 16;
+    Section& section = fixture.Make<Section>();
+    FormChecks::NothingShown(
+        fixture, section, [&] { return section.UpdateUi(); }, "qtMassEXSpinBox");
+}
+
+void TestPropertySection::failedReadLeavesEverything_data()
+{
+    QTest::addColumn<QString>("operation");
+    QTest::newRow("state") << QStringLiteral("IsSoftClothActive");
+    QTest::newRow("record") << QStringLiteral("GetSoftClothProperty");
+}
+
+void TestPropertySection::failedReadLeavesEverything()
+{
+    SectionFixture fixture;
+    fixture.Cloth().property.mass = 16;
+    Section& section = fixture.Make<Section>();
+    FormChecks::FailedRead(
+        fixture, section, [&] { return section.UpdateUi(); }, "qtMassEXSpinBox");
+}
+
+void TestPropertySection::refreshEnablesNothing()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    section.EnableSection(false);
+    QCOMPARE(section.UpdateUi(), BF::Results::Success);
+    QVERIFY(!Child<QGroupBox>(&section, "qtSectionGroupBox")->isEnabled());
+}
+
+void TestPropertySection::enableUiReachesTheGroupBox()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    const auto* groupBox = Child<QGroupBox>(&section, "qtSectionGroupBox");
+    section.EnableUi(false);
+    QVERIFY(!groupBox->isEnabled());
+    section.EnableUi(true);
+    QVERIFY(groupBox->isEnabled());
+    QVERIFY(Child<QPushButton>(&section, "qtExpandPushButton")->isEnabled());
+}
+
+QTEST_MAIN(TestPropertySection)
+#include "tst_property_section.moc"
