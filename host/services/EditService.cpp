@@ -38,39 +38,28 @@ BF::Result EditService::EditCloths(const ClothAddress& address, bool affectAllMa
     return BF::Results::Success;
 }
 
-template <class Change>
-BF::Result EditService::EditObject(BF::CHandle* object, const QString& text, Change change)
-{
-    const Object* found = CurrentScene().FindObject(object);
-    if (!found) {
-        return BF::Results::InvalidArgument;
-    }
-    SceneEdit edit;
-    edit.text = text;
-    ObjectState state = found->state;
-    change(state);
-    edit.objects.push_back({object, {}, state});
-    if (CurrentScene().Push(std::move(edit))) {
-        App().Send("ObjectDataChanged", &MV::CEventSender::ObjectDataChanged, BF::CArrayList<BF::CHandle*>{object},
-                   MV::EObjectChangedDataType::Topology);
-    }
-    return BF::Results::Success;
-}
-
 BF::Result EditService::ConvertToRigidBody(BF::CHandle* object)
 {
     return Record("ConvertToRigidBody", {In(object)}, [&] {
-        return EditObject(object, App().tr("Convert to rigid body"), [](ObjectState& state) {
-            state.softCloth = false;
-            state.rigidBody = true;
-        });
+        const Object* found = CurrentScene().FindObject(object);
+        if (!found) {
+            return BF::Results::InvalidArgument;
+        }
+        SceneEdit edit;
+        edit.text = App().tr("Convert to rigid body");
+        ObjectState state = found->state;
+        state.softCloth = false;
+        state.rigidBody = true;
+        edit.objects.push_back({object, {}, state});
+        App().PushObjectEdit(object, std::move(edit));
+        return BF::Results::Success;
     });
 }
 
 BF::Result EditService::CancelMultiMaterialSoftCloth(BF::CHandle* object)
 {
     return Record("CancelMultiMaterialSoftCloth", {In(object)}, [&] {
-        return EditObject(object, App().tr("Soft cloth off"), [](ObjectState& state) { state.softCloth = false; });
+        return App().CancelSoftCloth(object) ? BF::Results::Success : BF::Results::InvalidArgument;
     });
 }
 

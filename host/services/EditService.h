@@ -35,9 +35,6 @@ private:
     /// Applies \p change to the addressed cloth, or to all cloths of the object, as one undo step.
     template <class Change>
     BF::Result EditCloths(const ClothAddress& address, bool affectAllMaterials, const QString& text, Change change);
-    /// Applies \p change to the object's state, as one undo step, and tells of it.
-    template <class Change>
-    BF::Result EditObject(BF::CHandle* object, const QString& text, Change change);
 };
 
 } // namespace Host
