@@ -56,7 +56,8 @@ IgnoredNames ReadIgnoredNames(const QString& profilePath)
     const QStringList keys = profile.allKeys();
     for (const QString& key : keys) {
         BF::CArrayList<std::wstring> list;
-        for (const QString& name : profile.value(key).toStringList()) {
+        const QStringList values = profile.value(key).toStringList();
+        for (const QString& name : values) {
             list.Add(name.toStdWString());
         }
         names.emplace(key.toStdWString(), list);

@@ -310,7 +310,7 @@ void CMultiLevelSlider::hideEvent(QHideEvent* event)
 }
 
 /// Takes a copy: the owner may exchange the function from within the call.
-void CMultiLevelSlider::Report(Callback callback) const
+void CMultiLevelSlider::Report(const Callback& callback) const
 {
     if (callback) {
         callback(m_selectedIndex);

@@ -99,7 +99,7 @@ private:
     void StartDrag(std::size_t index, int cursorX);
     void DragTo(int cursorX);
     int KeepDistance(int value, int gap) const;
-    void Report(Callback callback) const;
+    void Report(const Callback& callback) const;
 
     Image m_normal;
     Image m_selected;

@@ -28,7 +28,7 @@ using Ui = CSoftClothPropertyUiComponent;
 struct ProfileField
 {
     QLatin1String key;
-    float Record::*field;
+    float Record::*field = nullptr;
 };
 
 const std::array<ProfileField, 3> inertiaScales{{

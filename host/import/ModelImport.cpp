@@ -1,5 +1,6 @@
 #include "host/import/ModelImport.h"
 
+#include "host/import/ModelFiles.h"
 #include "host/import/SceneConversion.h"
 
 #include <QDir>
@@ -30,10 +31,12 @@ constexpr double readEnd = 0.6;
 constexpr double processEnd = 0.9;
 
 /// What Assimp does to the scene once it is read, one by one so that a cancel is heard in between.
-constexpr std::array<unsigned, 5> processSteps{
+constexpr std::array<unsigned, 4> processSteps{
     // What tells vertices apart but is not taken over would keep them from being joined.
-    aiProcess_RemoveComponent,  aiProcess_Triangulate,           aiProcess_SortByPType,
-    aiProcess_GenSmoothNormals, aiProcess_JoinIdenticalVertices,
+    aiProcess_RemoveComponent,
+    aiProcess_Triangulate,
+    aiProcess_SortByPType,
+    aiProcess_JoinIdenticalVertices,
 };
 
 constexpr int unwantedComponents = aiComponent_TANGENTS_AND_BITANGENTS | aiComponent_COLORS | aiComponent_BONEWEIGHTS |
@@ -139,6 +142,7 @@ ImportResult Import(const QFileInfo& file, ProgressReport& report)
 {
     const QString path = file.filePath();
     Assimp::Importer importer;
+    importer.SetIOHandler(std::make_unique<ModelFiles>().release());
     importer.SetProgressHandler(std::make_unique<ReadProgress>(report).release());
     importer.SetPropertyInteger(AI_CONFIG_PP_RVC_FLAGS, unwantedComponents);
     importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
@@ -149,6 +153,9 @@ ImportResult Import(const QFileInfo& file, ProgressReport& report)
     }
     if (!scene) {
         return NotReadable(path, QString::fromUtf8(importer.GetErrorString()));
+    }
+    if (HasBrokenFaces(*scene)) {
+        return NotReadable(path, QStringLiteral("it is damaged."));
     }
     if (!HasSurfaces(*scene)) {
         return Failed(QStringLiteral("The model file \"%1\" holds no surfaces."), path);

@@ -24,7 +24,7 @@ struct ImportResult
 /// UVs, diffuse and opacity textures, linked or embedded, come along; triangles only, transforms baked in.
 ImportResult ImportModel(const QString& path, const ImportProgress& progress = {});
 
-/// Suffixes that ImportModel() can read, lower case without a dot, sorted.
+/// Suffixes that ImportModel() can read, lower case without the leading dot, sorted.
 QStringList ImportableSuffixes();
 
 } // namespace Host

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace Host {
 
@@ -67,18 +68,25 @@ QVector3D ToVector(const aiVector3D& vector)
     return {Finite(vector.x), Finite(vector.y), Finite(vector.z)};
 }
 
+/// \p vector with length 1, however short it is; QVector3D::normalized() gives up on short ones.
+QVector3D Unit(const QVector3D& vector)
+{
+    const float length = vector.length();
+    return length > 0.0F ? FiniteVector(vector / length) : QVector3D();
+}
+
+/// Normals that the part lacks stay null.
 void AppendVertices(Mesh& mesh, const aiMesh& part, const QMatrix4x4& transform)
 {
     const std::size_t base = mesh.positions.size();
-    const QMatrix3x3 normalTransform = transform.normalMatrix();
     for (unsigned i = 0; i < part.mNumVertices; ++i) {
         mesh.positions.push_back(FiniteVector(transform.map(ToVector(part.mVertices[i]))));
     }
+    mesh.normals.resize(mesh.positions.size());
     if (part.HasNormals()) {
-        const QMatrix4x4 rotation(normalTransform);
-        mesh.normals.resize(base);
+        const QMatrix4x4 rotation(transform.normalMatrix());
         for (unsigned i = 0; i < part.mNumVertices; ++i) {
-            mesh.normals.push_back(FiniteVector(rotation.mapVector(ToVector(part.mNormals[i])).normalized()));
+            mesh.normals[base + i] = Unit(rotation.mapVector(ToVector(part.mNormals[i])));
         }
     }
     if (part.HasTextureCoords(0)) {
@@ -87,6 +95,47 @@ void AppendVertices(Mesh& mesh, const aiMesh& part, const QMatrix4x4& transform)
             mesh.uvs.push_back(ToVector(part.mTextureCoords[0][i]).toVector2D());
         }
     }
+}
+
+/// Gives vertices without a normal a smooth one, also across the seams of the texture. Assimp would do so only for
+/// triangles that share no vertices, which not all of its readers deliver.
+void FillNormals(Mesh& mesh)
+{
+    const auto isMissing = [](const QVector3D& normal) { return normal.isNull(); };
+    if (std::none_of(mesh.normals.begin(), mesh.normals.end(), isMissing)) {
+        return;
+    }
+    const auto keyOf = [&](std::size_t vertex) {
+        const QVector3D& position = mesh.positions[vertex];
+        return std::make_tuple(position.x(), position.y(), position.z());
+    };
+    // A cross product is as long as its triangle is large, so large triangles count more.
+    std::map<std::tuple<float, float, float>, QVector3D> sums;
+    for (const MaterialSlot& slot : mesh.materialSlots) {
+        for (std::size_t i = 0; i < slot.indices.size(); i += 3) {
+            const QVector3D& corner = mesh.positions[slot.indices[i]];
+            const QVector3D normal = QVector3D::crossProduct(mesh.positions[slot.indices[i + 1]] - corner,
+                                                             mesh.positions[slot.indices[i + 2]] - corner);
+            for (std::size_t k = i; k < i + 3; ++k) {
+                sums[keyOf(slot.indices[k])] += normal;
+            }
+        }
+    }
+    for (std::size_t i = 0; i < mesh.normals.size(); ++i) {
+        if (isMissing(mesh.normals[i])) {
+            mesh.normals[i] = Unit(sums[keyOf(i)]);
+        }
+    }
+}
+
+/// True when the corners are three vertices of \p part in three places.
+bool IsTriangle(const aiMesh& part, unsigned a, unsigned b, unsigned c)
+{
+    if (std::max({a, b, c}) >= part.mNumVertices) {
+        return false;
+    }
+    const aiVector3D* places = part.mVertices;
+    return places[a] != places[b] && places[b] != places[c] && places[c] != places[a];
 }
 
 /// Adds the triangles of \p part, whose vertices begin at \p base.
@@ -100,8 +149,7 @@ void AppendTriangles(std::vector<quint32>& indices, const aiMesh& part, std::siz
         const unsigned a = face.mIndices[0];
         const unsigned b = face.mIndices[mirrored ? 2 : 1];
         const unsigned c = face.mIndices[mirrored ? 1 : 2];
-        const bool inRange = std::max({a, b, c}) < part.mNumVertices;
-        if (inRange && a != b && b != c && c != a) {
+        if (IsTriangle(part, a, b, c)) {
             for (const unsigned index : {a, b, c}) {
                 indices.push_back(static_cast<quint32>(base + index));
             }
@@ -136,9 +184,6 @@ Mesh ToMesh(const MeshNode& meshNode, const aiScene& scene)
         AppendVertices(mesh, part, transform);
         AppendTriangles(SlotFor(mesh, part.mMaterialIndex).indices, part, base, transform.determinant() < 0.0);
     }
-    if (!mesh.normals.empty()) {
-        mesh.normals.resize(mesh.positions.size());
-    }
     if (!mesh.uvs.empty()) {
         mesh.uvs.resize(mesh.positions.size());
     }
@@ -146,6 +191,7 @@ Mesh ToMesh(const MeshNode& meshNode, const aiScene& scene)
     slots.erase(
         std::remove_if(slots.begin(), slots.end(), [](const MaterialSlot& slot) { return slot.indices.empty(); }),
         slots.end());
+    FillNormals(mesh);
     return mesh;
 }
 
@@ -204,6 +250,18 @@ void NameUnnamed(std::vector<Thing>& things, const QString& pattern)
 }
 
 } // namespace
+
+bool HasBrokenFaces(const aiScene& scene)
+{
+    const auto isBroken = [](const aiMesh& mesh, const aiFace& face) {
+        return face.mNumIndices == 0 ||
+               *std::max_element(face.mIndices, face.mIndices + face.mNumIndices) >= mesh.mNumVertices;
+    };
+    return std::any_of(scene.mMeshes, scene.mMeshes + scene.mNumMeshes, [isBroken](const aiMesh* mesh) {
+        return std::any_of(mesh->mFaces, mesh->mFaces + mesh->mNumFaces,
+                           [=](const aiFace& face) { return isBroken(*mesh, face); });
+    });
+}
 
 bool HasSurfaces(const aiScene& scene)
 {

@@ -11,6 +11,10 @@ struct aiScene;
 
 namespace Host {
 
+/// True when a face has no corners or one that is no vertex. Not all of Assimp's readers see to that, and what comes
+/// after them aborts the process.
+bool HasBrokenFaces(const aiScene& scene);
+
 /// True when the scene has anything that can be cut into triangles.
 bool HasSurfaces(const aiScene& scene);
 

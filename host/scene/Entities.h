@@ -63,8 +63,8 @@ struct ObjectTraits
 
     friend bool operator==(const ObjectTraits& a, const ObjectTraits& b)
     {
-        return a.type == b.type && a.kind == b.kind && a.convertState == b.convertState && a.blocked == b.blocked
-            && a.blockedEx == b.blockedEx;
+        return a.type == b.type && a.kind == b.kind && a.convertState == b.convertState && a.blocked == b.blocked &&
+               a.blockedEx == b.blockedEx;
     }
 };
 

@@ -40,6 +40,7 @@ std::vector<JsonNode> JsonNode::Items() const
     Require(QJsonValue::Array, "a list");
     std::vector<JsonNode> items;
     const QJsonArray array = m_value.toArray();
+    items.reserve(std::size_t(array.size()));
     for (int i = 0; i < array.size(); ++i) {
         items.emplace_back(array.at(i), QStringLiteral("%1[%2]").arg(m_place).arg(i));
     }

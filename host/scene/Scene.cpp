@@ -316,7 +316,8 @@ void Scene::Apply(const SceneEdit& edit, bool forward)
     ApplyAll(edit.materials, forward, m_objects);
     ApplyAll(edit.objects, forward, m_objects);
     m_applied.objectsChanged |= ChangesExistence(edit);
-    for (BF::CHandle* handle : ObjectsOf(edit)) {
+    const QVector<BF::CHandle*> touched = ObjectsOf(edit);
+    for (BF::CHandle* handle : touched) {
         if (!m_applied.objects.contains(handle)) {
             m_applied.objects.append(handle);
         }

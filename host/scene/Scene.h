@@ -81,7 +81,7 @@ public:
     const QUndoStack& UndoStack() const { return m_undoStack; }
 
 Q_SIGNALS:
-    /// Objects came or went.
+    /// Objects came, went or were renamed.
     void ObjectsChanged();
     void SelectionChanged();
     /// An edit was applied, undone or redone; \p objects are those that it touches.

@@ -102,7 +102,7 @@ SceneFileResult Load(const QString& path, std::unique_ptr<Scene>& scene)
     if (file.error() != QFileDevice::NoError) {
         return NotLoaded(path, file.errorString());
     }
-    QJsonParseError parsing;
+    QJsonParseError parsing{};
     const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
     if (parsing.error != QJsonParseError::NoError) {
         return NotLoaded(path, QStringLiteral("it is damaged or no scene file at all (%1 at byte %2)")

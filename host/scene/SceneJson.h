@@ -11,7 +11,7 @@ class Scene;
 
 /// What a scene file says of itself.
 namespace SceneFormat {
-inline constexpr QLatin1String name("softcloth-scene");
+inline constexpr const char* name = "softcloth-scene";
 inline constexpr int version = 1;
 } // namespace SceneFormat
 

@@ -260,7 +260,8 @@ private:
 
 void RequireFormat(const JsonNode& root)
 {
-    if (!root.Has("format") || !root["format"].IsText() || root["format"].ToText() != SceneFormat::name) {
+    if (!root.Has("format") || !root["format"].IsText() ||
+        root["format"].ToText() != QLatin1String(SceneFormat::name)) {
         throw SceneFormatError(QStringLiteral("it is no scene of this application"));
     }
     if (root["version"].ToInteger(1, std::numeric_limits<int>::max()) > SceneFormat::version) {

@@ -146,7 +146,7 @@ QJsonObject SceneToJson(const Scene& scene, const QDir& folder)
     const QJsonObject undo{{QStringLiteral("applied"), scene.UndoStack().index()},
                            {QStringLiteral("steps"),
                             ListOf(scene.UndoSteps(), [&](const SceneEdit& edit) { return EditToJson(edit, ids); })}};
-    return {{QStringLiteral("format"), SceneFormat::name},
+    return {{QStringLiteral("format"), QLatin1String(SceneFormat::name)},
             {QStringLiteral("version"), SceneFormat::version},
             {QStringLiteral("objects"), objects},
             {QStringLiteral("undo"), undo}};

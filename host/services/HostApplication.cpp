@@ -261,7 +261,7 @@ void HostApplication::RenameMaterial(Id material, const QString& name)
         return;
     }
     found->name = name;
-    Q_EMIT StateChanged();
+    Q_EMIT m_scene->ObjectsChanged();
     Send("ObjectDataChanged", &CEventSender::ObjectDataChanged, Objects{m_scene->OwnerOfMaterial(material)->handle},
          MV::EObjectChangedDataType::MaterialNames);
 }

@@ -313,7 +313,8 @@ void MainWindow::ShowTitle()
 void MainWindow::KeepExpandStates() const
 {
     QSettings settings;
-    for (MV::CSectionInterface* section : m_pluginHost.Sections()) {
+    const auto sections = m_pluginHost.Sections();
+    for (MV::CSectionInterface* section : sections) {
         settings.setValue(ExpandKey(*section), section->GetSectionExpandState());
     }
 }
@@ -321,7 +322,8 @@ void MainWindow::KeepExpandStates() const
 void MainWindow::RestoreExpandStates()
 {
     const QSettings settings;
-    for (MV::CSectionInterface* section : m_pluginHost.Sections()) {
+    const auto sections = m_pluginHost.Sections();
+    for (MV::CSectionInterface* section : sections) {
         section->SetSectionExpandState(settings.value(ExpandKey(*section), true).toBool());
     }
 }

@@ -59,7 +59,6 @@ SceneTree::SceneTree(HostApplication& host, QWidget* parent)
     connect(this, &QTreeWidget::itemSelectionChanged, this, &SceneTree::OnSelectionChanged);
     connect(this, &QTreeWidget::itemClicked, this, &SceneTree::OnItemClicked);
     connect(&host, &HostApplication::SceneReplaced, this, &SceneTree::ConnectScene);
-    connect(&host, &HostApplication::StateChanged, this, &SceneTree::Rebuild);
     ConnectScene();
 }
 

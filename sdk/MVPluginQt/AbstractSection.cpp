@@ -71,7 +71,7 @@ void CAbstractSection::SetSectionWidgets(QPushButton* expandButton, QGroupBox* g
     m_groupBox = groupBox;
     if (expandButton) {
         expandButton->setCheckable(true);
-        m_clicked = QObject::connect(expandButton, &QPushButton::clicked,
+        m_clicked = QObject::connect(expandButton, &QPushButton::clicked, expandButton,
                                      [this](bool checked) { SetSectionExpandState(checked); });
     }
     ShowExpandState();

@@ -40,7 +40,8 @@ std::optional<int> EnumValue(const QMetaEnum& keys, const QString& text)
 std::optional<std::vector<int>> Numbers(const QString& text, std::size_t count)
 {
     std::vector<int> numbers;
-    for (const QString& part : text.simplified().split(QLatin1Char(' '))) {
+    const QStringList parts = text.simplified().split(QLatin1Char(' '));
+    for (const QString& part : parts) {
         bool isNumber = false;
         numbers.push_back(part.toInt(&isNumber));
         if (!isNumber) {

@@ -48,39 +48,47 @@ void CWidgetBuilder::SetLayoutIniPath(QString path)
 
 BF::Result CWidgetBuilder::InitUi(QWidget* target, CUiComponent* component, CMoviraInterface* host, bool fill)
 {
-    QWidget* form = nullptr;
-    return Build(target, component, host, fill, &form);
+    if (!target || !component || !host) {
+        return BF::Results::InvalidArgument;
+    }
+    return LoadInto(target, component, fill) ? BF::Results::Success : BF::Results::ResourceFailure;
 }
 
 BF::Result CWidgetBuilder::InitUi(CPluginDialog* target, CUiComponent* component, CMoviraInterface* host, bool fill,
                                   bool adoptWindow)
 {
-    QWidget* form = nullptr;
-    const BF::Result result = Build(target, component, host, fill, &form);
-    if (!result.IsFailure() && adoptWindow) {
-        target->setWindowTitle(form->windowTitle());
-        target->setWindowIcon(form->windowIcon());
-    }
-    return result;
-}
-
-BF::Result CWidgetBuilder::Build(QWidget* target, CUiComponent* component, CMoviraInterface* host, bool fill,
-                                 QWidget** form)
-{
     if (!target || !component || !host) {
         return BF::Results::InvalidArgument;
     }
-    *form = Internal::LoadForm(m_formPath, m_resourceBase, target);
-    if (!*form) {
+    const QWidget* form = LoadInto(target, component, fill);
+    if (!form) {
         return BF::Results::ResourceFailure;
     }
-    if (fill) {
-        FillWith(target, *form);
+    if (adoptWindow) {
+        target->setWindowTitle(form->windowTitle());
+        target->setWindowIcon(form->windowIcon());
     }
-    Internal::ApplyLayoutIni(m_layoutIniPath, *form);
-    CQtUiLoader loader(*form, target);
-    component->SetupUi(loader);
     return BF::Results::Success;
+}
+
+/// Loads the form and sets up \p component with it. \return the form's top widget; null when it cannot be read
+QWidget* CWidgetBuilder::LoadInto(QWidget* target, CUiComponent* component, bool fill) const
+{
+    QWidget* form = Internal::LoadForm(m_formPath, m_resourceBase, target);
+    if (!form) {
+        return nullptr;
+    }
+    if (form->isWindow()) {
+        // A form made as a dialog is a part of its target all the same.
+        form->setWindowFlags(Qt::Widget);
+    }
+    if (fill) {
+        FillWith(target, form);
+    }
+    Internal::ApplyLayoutIni(m_layoutIniPath, form);
+    CQtUiLoader loader(form, target);
+    component->SetupUi(loader);
+    return form;
 }
 
 } // namespace MV

@@ -39,7 +39,7 @@ public:
                       bool adoptWindow);
 
 private:
-    BF::Result Build(QWidget* target, CUiComponent* component, CMoviraInterface* host, bool fill, QWidget** form);
+    QWidget* LoadInto(QWidget* target, CUiComponent* component, bool fill) const;
 
     QString m_formPath;
     QString m_plainFormPath;

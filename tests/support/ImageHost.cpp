@@ -42,7 +42,7 @@ Id ForChannel(Id first, MV::ETextureChannel channel)
 
 QColor ImagePlan::Colour(Host::Id thumbnail)
 {
-    return QColor::fromHsv(int(thumbnail * 37 % 360), 200, 200);
+    return QColor(QColor::fromHsv(int(thumbnail * 37 % 360), 200, 200).rgb());
 }
 
 class ImageHost::Scene : public Forwarding::SceneService

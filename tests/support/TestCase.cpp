@@ -64,7 +64,8 @@ void TestCase::cleanup()
     TearDown();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QStringList leaked;
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* window : windows) {
         if (!m_windowsBefore.contains(const_cast<QWidget*>(window))) {
             leaked.append(QString::fromLatin1(window->metaObject()->className()) + QLatin1Char(' ') +
                           window->objectName());

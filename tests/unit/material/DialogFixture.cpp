@@ -81,12 +81,14 @@ QStringList DialogFixture::TakeOperations()
 void DialogFixture::During(const char* operation, std::function<void()> action)
 {
     auto connection = std::make_shared<QMetaObject::Connection>();
-    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, [=](int index) {
-        if (host.Journal().Entries().at(index).operation == QLatin1String(operation)) {
-            QObject::disconnect(*connection);
-            action();
-        }
-    });
+    const QString name = QString::fromLatin1(operation);
+    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded,
+                                   [this, connection, name, action = std::move(action)](int index) {
+                                       if (host.Journal().Entries().at(index).operation == name) {
+                                           QObject::disconnect(*connection);
+                                           action();
+                                       }
+                                   });
 }
 
 void DialogFixture::Click(const char* buttonName) const
@@ -128,6 +130,12 @@ QString Refresh()
 QString RefreshScene()
 {
     return QStringLiteral("RefreshScene(0) -> 0");
+}
+
+QString Draw(const QString& thumbnail, const QString& source)
+{
+    const int pixels = qRound(88 * qApp->devicePixelRatio());
+    return QStringLiteral("RenderThumbnail(%1, %1, %2, %3) -> 0").arg(pixels).arg(thumbnail, source);
 }
 
 } // namespace Journal

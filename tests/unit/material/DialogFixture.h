@@ -68,5 +68,7 @@ namespace Journal {
 QString Message(const QString& text);
 QString Refresh();      ///< The refresh of the whole panel.
 QString RefreshScene(); ///< The host draws its scene anew.
+/// A thumbnail drawn with as many pixels as its label has on the screen.
+QString Draw(const QString& thumbnail, const QString& source);
 
 } // namespace Journal

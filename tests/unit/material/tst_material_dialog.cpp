@@ -26,8 +26,6 @@ private Q_SLOTS:
     void initRegistersTheHotKeys();
     void initFailsWithTheHotKeys_data();
     void initFailsWithTheHotKeys();
-    void formHasAllNamedChildren_data();
-    void formHasAllNamedChildren();
     void slotsAreInOrder();
     void startsHiddenWithNoLabelCurrent();
     void dialogModeShowsAndHides();
@@ -160,43 +158,6 @@ void TestMaterialDialog::initFailsWithTheHotKeys()
     QCOMPARE(fixture.TakeOperations().last(), operation);
 }
 
-void TestMaterialDialog::formHasAllNamedChildren_data()
-{
-    QTest::addColumn<QString>("className");
-    const auto rows = [](const char* className, std::initializer_list<const char*> names) {
-        for (const char* name : names) {
-            QTest::newRow(name) << QString::fromLatin1(className);
-        }
-    };
-    rows("QWidget",
-         {"SoftClothMaterialDlg", "ListBorderWidget", "qtTextureEditButtonWidget", "qtTextureSettingWidget"});
-    rows("QComboSpinBox", {"qtBrightnessCombospinbox", "qtContrastCombospinbox"});
-    rows("QFrame", {"frame", "line_2"});
-    rows("QLabel", {"label", "label_2", "label_3", "label_4", "qtBitmapLabel"});
-    rows("QGroupBox", {"qtMaterialGroupBox"});
-    rows("QItemLabel", {"qtDiffuseItemLabel", "qtOpacityItemLabel", "qtWeightingItemLabel"});
-    rows("QLineEdit", {"qtBitmapPathLineEdit"});
-    rows("QListWidget", {"qtMaterialListWidget"});
-    rows("QPushButton", {"qtDeleteFilePushButton", "qtEmbedTexturePushButton", "qtLaunchPushButton",
-                         "qtOpenFilePushButton", "qtOpenPathPushButton", "qtPickMaterialPushButton",
-                         "qtSaveFilePushButton", "qtShowMaterialTableButton", "qtUvRefPushButton"});
-    rows("QAction", {"qtDoEscapeAction"});
-    rows("QHBoxLayout",
-         {"horizontalLayout", "horizontalLayout_2", "horizontalLayout_3", "horizontalLayout_4", "horizontalLayout_8"});
-    rows("QVBoxLayout", {"verticalLayout"});
-    for (int number = 2; number <= 14; ++number) {
-        QTest::addRow("verticalLayout_%d", number) << QStringLiteral("QVBoxLayout");
-    }
-}
-
-void TestMaterialDialog::formHasAllNamedChildren()
-{
-    QFETCH(const QString, className);
-    const DialogFixture fixture;
-    const auto* found = Child<QObject>(fixture.dialog, QTest::currentDataTag());
-    QCOMPARE(QString::fromLatin1(found->metaObject()->className()), className);
-}
-
 void TestMaterialDialog::slotsAreInOrder()
 {
     const QMetaObject& meta = MV::CSoftClothMaterialDlg::staticMetaObject;
@@ -289,14 +250,14 @@ void TestMaterialDialog::refreshShowsTexturesThenWeightImage()
     QCOMPARE(fixture.Take(),
              (QStringList{QStringLiteral(R"(GetMaterialTextureState("Skin", 0, false, false, false, false) -> 0)"),
                           QStringLiteral("GetDefaultThumbnail(unknown 0xd0) -> 0"),
-                          QStringLiteral("RenderThumbnail(88, 88, unknown 0xd0, null) -> 0"),
+                          Journal::Draw(QStringLiteral("unknown 0xd0"), QStringLiteral("null")),
                           QStringLiteral(R"(GetMaterialTextureState("Skin", 1, false, false, false, false) -> 0)"),
                           QStringLiteral("GetDefaultThumbnail(unknown 0xd0) -> 0"),
-                          QStringLiteral("RenderThumbnail(88, 88, unknown 0xd0, null) -> 0"),
+                          Journal::Draw(QStringLiteral("unknown 0xd0"), QStringLiteral("null")),
                           QStringLiteral(R"(GetWeightTexture("Hero", "Body", "Skin", null) -> 0)"),
                           QStringLiteral("GetDefaultThumbnail(unknown 0xd0) -> 0"),
                           QStringLiteral("GetThumbnailSourceImage(unknown 0xd0, unknown 0xe1) -> false"),
-                          QStringLiteral("RenderThumbnail(88, 88, unknown 0xd0, null) -> 0")}));
+                          Journal::Draw(QStringLiteral("unknown 0xd0"), QStringLiteral("null"))}));
     QCOMPARE(fixture.EnabledOf(editWidgets), editWidgets);
 }
 

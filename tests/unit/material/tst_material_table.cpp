@@ -22,8 +22,6 @@ class TestMaterialTable : public TestCase
 private Q_SLOTS:
     void initWithoutHostIsAnInvalidArgument();
     void initWithoutItsFormFails();
-    void formHasAllNamedChildren_data();
-    void formHasAllNamedChildren();
     void columnsAreSetUp();
     void headersAreTranslatedWithTheirNotes();
     void rowsAreReadFromTheHost();
@@ -137,36 +135,6 @@ void TestMaterialTable::initWithoutItsFormFails()
     ExpectWarning(QStringLiteral("SoftClothMaterialTable.ui"));
     QCOMPARE(table.Init({}, {}, &host), BF::Results::ResourceFailure);
     QVERIFY(!table.findChild<QWidget*>());
-}
-
-void TestMaterialTable::formHasAllNamedChildren_data()
-{
-    QTest::addColumn<QString>("className");
-    const auto row = [](const char* name, const char* className) {
-        QTest::newRow(name) << QString::fromLatin1(className);
-    };
-    row("SoftClothMaterialTable", "QWidget");
-    row("qtMaterialTableGroupBox", "QGroupBox");
-    row("qtMaterialTableLabel", "QLabel");
-    row("qtCancelPushButton", "QPushButton");
-    row("qtConfirmPushButton", "QPushButton");
-    row("qtMaterialTableWidget", "QTableWidget");
-    row("qtMaterialTableBorderWidget", "QWidget");
-    row("qtMaterialTableButtonWidget", "QWidget");
-    row("qtDoEscapeAction", "QAction");
-    row("qtMaterialTableButtonLayout", "QHBoxLayout");
-    row("qtMaterialTableLayout", "QVBoxLayout");
-    row("qtMaterialTableHBoxLayout", "QHBoxLayout");
-    row("qtGroupBoxLayout", "QVBoxLayout");
-    row("qtWidgetLayout", "QVBoxLayout");
-}
-
-void TestMaterialTable::formHasAllNamedChildren()
-{
-    QFETCH(const QString, className);
-    DialogFixture fixture;
-    const auto* found = Child<QObject>(fixture.table.data(), QTest::currentDataTag());
-    QCOMPARE(QString::fromLatin1(found->metaObject()->className()), className);
 }
 
 void TestMaterialTable::columnsAreSetUp()

@@ -21,6 +21,7 @@ class TestSceneEdit : public TestCase
 
 private Q_SLOTS:
     void pushAppliesAndTakesBeforeStatesFromTheScene();
+    void deletedObjectIsBroughtBackByAnEdit();
     void changesOfUnknownThingsAreLeftOut();
     void editThatChangesNothingIsNoStep();
     void floatsAreComparedByTheirBits_data();
@@ -95,6 +96,19 @@ void TestSceneEdit::pushAppliesAndTakesBeforeStatesFromTheScene()
     QCOMPARE(m_scene->FindSlot(m_address)->cloth.property.mass, 2);
 }
 
+void TestSceneEdit::deletedObjectIsBroughtBackByAnEdit()
+{
+    m_scene->Push(DeletionOf(*m_second));
+    QVERIFY(!m_scene->FindObject(m_second->handle));
+    SceneEdit edit;
+    edit.objects = {{m_second->handle, {}, {true, true, false}}};
+    QVERIFY(m_scene->Push(edit));
+    QVERIFY(m_scene->FindObject(m_second->handle));
+    QVERIFY(m_second->state.softCloth);
+    m_scene->UndoStack().undo();
+    QVERIFY(!m_scene->FindObject(m_second->handle));
+}
+
 void TestSceneEdit::changesOfUnknownThingsAreLeftOut()
 {
     m_scene->Push(DeletionOf(*m_second));
@@ -105,7 +119,7 @@ void TestSceneEdit::changesOfUnknownThingsAreLeftOut()
     SceneEdit edit;
     edit.cloths = {{deleted, {}, after}, {mixed, {}, after}, {{}, {}, after}};
     edit.materials = {{m_second->materials[0].id, {}, {false}}, {Host::NewId(), {}, {false}}};
-    edit.objects = {{m_second->handle, {}, {true, true, true}}, {nullptr, {}, {false, true, true}}};
+    edit.objects = {{m_second->handle, {}, {false, true, true}}, {nullptr, {}, {true, true, true}}};
     const int steps = m_scene->UndoStack().count();
     QVERIFY(!m_scene->Push(edit));
     QCOMPARE(m_scene->UndoStack().count(), steps);

@@ -61,6 +61,8 @@ SliderWindow::SliderWindow(const SliderSetup& setup, int width)
     resize(width + 200, 100);
     slider.setGeometry(100, 20, width, 30);
     show();
+    // The window system reports no move to where the mouse is already, as an earlier window may have left it.
+    QTest::mouseMove(windowHandle(), QPoint(1, 1));
 }
 
 QPoint SliderWindow::InWindow(int x, int y) const

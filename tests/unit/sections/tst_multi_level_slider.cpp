@@ -2,12 +2,10 @@
 #include "tests/unit/sections/SliderWindow.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 
 #include <limits>
 
 using MV::CMultiLevelSlider;
-using MV::SliderLevel;
 
 Q_DECLARE_METATYPE(SliderSetup)
 Q_DECLARE_METATYPE(std::vector<int>)

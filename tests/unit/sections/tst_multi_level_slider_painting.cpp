@@ -6,7 +6,6 @@
 #include <QLabel>
 
 using MV::CMultiLevelSlider;
-using MV::SliderLevel;
 
 /// What the slider draws, pixel by pixel.
 class TestMultiLevelSliderPainting : public TestCase

@@ -327,12 +327,14 @@ void TestPropertyProfile::everyWholeBoxValueComesBack()
     SectionFixture fixture;
     Section& section = fixture.Make<Section>();
     auto* widget = Child<QWidget>(&section, box);
+    const std::unique_ptr<QSettings> profile = fixture.Profile(group, {});
     for (int value = widget->property("minimum").toInt(); value <= widget->property("maximum").toInt(); ++value) {
-        const QString line = QLatin1String(key) + QLatin1Char('=') + QString::number(value);
-        fixture.Load(section, group, {line});
+        profile->setValue(QLatin1String(key), value);
+        section.LoadProfile(*profile);
         QCOMPARE(section.UpdateUi(), BF::Results::Success);
         QCOMPARE(Shown(widget).toInt(), value);
-        QVERIFY2(fixture.Saved(section, group).contains(line), qPrintable(line));
+        section.SaveProfile(*profile);
+        QCOMPARE(profile->value(QLatin1String(key)).toInt(), value);
     }
 }
 

@@ -5,8 +5,6 @@
 #include "tests/unit/sections/SectionFixture.h"
 
 #include <BFQtCustomWidgetPluginU/QComboSpinBox.h>
-#include <BFQtCustomWidgetPluginU/QDoubleSpinBoxEx.h>
-#include <BFQtCustomWidgetPluginU/QSpinBoxEx.h>
 
 #include <QGroupBox>
 #include <QPushButton>
@@ -17,22 +15,12 @@ using Section = MV::CSoftClothPropertySection;
 
 Q_DECLARE_METATYPE(MV::SoftClothPropertyData)
 
-/// The property section's form, refresh and edits.
+/// The property section's refresh and edits.
 class TestPropertySection : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void componentFindsEveryObjectInOrder();
-    void formHasTypedObjects_data();
-    void formHasTypedObjects();
-    void boxesHaveSensibleRanges_data();
-    void boxesHaveSensibleRanges();
-    void boxesExplainThemselves();
-    void tabGoesThroughTheBoxesFromTopToBottom();
-    void sectionStandsAtItsPlace();
-    void nothingHappensWithoutAHost();
-    void missingFormIsReturned();
     void recordHasTheHostsDefaults_data();
     void recordHasTheHostsDefaults();
     void commitWritesOneField_data();
@@ -67,122 +55,6 @@ QStringList Arguments(const SectionFixture& fixture, int type, const Record& rec
 }
 
 } // namespace
-
-void TestPropertySection::componentFindsEveryObjectInOrder()
-{
-    SectionFixture fixture;
-    Section& section = fixture.Make<Section>();
-    CSoftClothPropertyUiComponent component;
-    FormChecks::Component(component, *Child<QWidget>(&section, "SoftClothProperty"),
-                          "verticalLayout_9 verticalLayout_8 verticalLayout_7 verticalLayout_6 gridLayout "
-                          "verticalLayout verticalLayout_2 qtBendingCombospinbox qtInertiaScaleCombospinbox "
-                          "qtStiffnessCombospinbox qtTetherStiffnessCombospinbox qtDampingDoubleEXSpinBox "
-                          "qtDragDoubleEXSpinBox qtFricionDoubleEXSpinBox qtTetherLimitDoubleEXSpinBox "
-                          "qtSectionGroupBox label_10 label_3 label_4 label_5 label_7 label_9 qtExpandPushButton "
-                          "qtMassEXSpinBox qtSolverFrequencyEXSpinBox SoftClothProperty");
-}
-
-void TestPropertySection::formHasTypedObjects_data()
-{
-    FormChecks::AddClassColumns();
-    using FormChecks::AddClassRow;
-    AddClassRow("QVBoxLayout", "verticalLayout_9 verticalLayout_8 verticalLayout_7 verticalLayout_6 verticalLayout "
-                               "verticalLayout_2");
-    AddClassRow("QGridLayout", "gridLayout");
-    AddClassRow("QComboSpinBox", "qtBendingCombospinbox qtInertiaScaleCombospinbox qtStiffnessCombospinbox "
-                                 "qtTetherStiffnessCombospinbox");
-    AddClassRow("QDoubleSpinBoxEx", "qtDampingDoubleEXSpinBox qtDragDoubleEXSpinBox qtFricionDoubleEXSpinBox "
-                                    "qtTetherLimitDoubleEXSpinBox");
-    AddClassRow("QSpinBoxEx", "qtMassEXSpinBox qtSolverFrequencyEXSpinBox");
-    AddClassRow("QGroupBox", "qtSectionGroupBox");
-    AddClassRow("QLabel", "label_10 label_3 label_4 label_5 label_7 label_9");
-    AddClassRow("QPushButton", "qtExpandPushButton");
-    AddClassRow("QWidget", "SoftClothProperty");
-}
-
-void TestPropertySection::formHasTypedObjects()
-{
-    SectionFixture fixture;
-    FormChecks::Classes(fixture.Make<Section>());
-}
-
-void TestPropertySection::boxesHaveSensibleRanges_data()
-{
-    FormChecks::AddRangeColumns();
-    QTest::newRow("mass") << QByteArray("qtMassEXSpinBox") << 0.0 << 10000.0 << 1.0 << QStringLiteral(" kg");
-    QTest::newRow("solver frequency") << QByteArray("qtSolverFrequencyEXSpinBox") << 1.0 << 1000.0 << 10.0
-                                      << QStringLiteral(" Hz");
-    QTest::newRow("friction") << QByteArray("qtFricionDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
-    QTest::newRow("damping") << QByteArray("qtDampingDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
-    QTest::newRow("drag") << QByteArray("qtDragDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
-    QTest::newRow("tether limit") << QByteArray("qtTetherLimitDoubleEXSpinBox") << 0.0 << 10.0 << 0.05
-                                  << QStringLiteral("");
-    QTest::newRow("stiffness") << QByteArray("qtStiffnessCombospinbox") << 0.0 << 100.0 << 1.0 << QStringLiteral(" %");
-    QTest::newRow("bending") << QByteArray("qtBendingCombospinbox") << 0.0 << 100.0 << 1.0 << QStringLiteral(" %");
-    QTest::newRow("tether stiffness") << QByteArray("qtTetherStiffnessCombospinbox") << 1.0 << 101.0 << 1.0
-                                      << QStringLiteral("");
-    QTest::newRow("inertia, in tenths") << QByteArray("qtInertiaScaleCombospinbox") << 0.0 << 20.0 << 1.0
-                                        << QStringLiteral("");
-}
-
-void TestPropertySection::boxesHaveSensibleRanges()
-{
-    SectionFixture fixture;
-    FormChecks::Range(fixture.Make<Section>());
-}
-
-void TestPropertySection::boxesExplainThemselves()
-{
-    SectionFixture fixture;
-    FormChecks::Help(fixture.Make<Section>(), 10);
-}
-
-void TestPropertySection::tabGoesThroughTheBoxesFromTopToBottom()
-{
-    SectionFixture fixture;
-    Section& section = fixture.Make<Section>();
-    QVERIFY(fixture.Show(section));
-    FormChecks::TabOrder(section, "qtExpandPushButton qtMassEXSpinBox qtSolverFrequencyEXSpinBox "
-                                  "qtFricionDoubleEXSpinBox qtDampingDoubleEXSpinBox qtDragDoubleEXSpinBox "
-                                  "qtTetherLimitDoubleEXSpinBox qtTetherStiffnessCombospinbox "
-                                  "qtStiffnessCombospinbox qtBendingCombospinbox qtInertiaScaleCombospinbox");
-}
-
-void TestPropertySection::sectionStandsAtItsPlace()
-{
-    SectionFixture fixture;
-    Section& section = fixture.Make<Section>();
-    QCOMPARE(fixture.initialised, BF::Results::Success);
-    QCOMPARE(section.GetSectionPage(), 4);
-    QCOMPARE(section.GetSectionOrder(), 16);
-    QCOMPARE(section.GetSectionApplications(), 7);
-    QCOMPARE(section.GetSectionWidget(), &section);
-    QVERIFY(section.AbleToShowSection());
-    QVERIFY(section.isHidden());
-    section.SetSectionExpandState(false);
-    QVERIFY(Child<QGroupBox>(&section, "qtSectionGroupBox")->isHidden());
-    QVERIFY(!Child<QPushButton>(&section, "qtExpandPushButton")->isChecked());
-}
-
-void TestPropertySection::nothingHappensWithoutAHost()
-{
-    SectionFixture fixture;
-    Section section(&fixture.plugin);
-    QCOMPARE(section.Init(QString(), QString(), nullptr), BF::Results::InvalidArgument);
-    QVERIFY(section.children().isEmpty());
-    QCOMPARE(section.UpdateUi(), BF::Results::InvalidArgument);
-    QCOMPARE(fixture.TakeCalls(), QStringList());
-}
-
-void TestPropertySection::missingFormIsReturned()
-{
-    Host::HostApplication host;
-    MV::CPhysicsSoftClothPlugin plugin;
-    Section section(&plugin);
-    ExpectWarning(QStringLiteral("SoftClothProperty.ui"));
-    QCOMPARE(section.Init(QString(), QString(), &host), BF::Results::ResourceFailure);
-    QVERIFY(!section.AbleToShowSection());
-}
 
 void TestPropertySection::recordHasTheHostsDefaults_data()
 {

@@ -70,6 +70,21 @@ void ComboTest::Type(const QString& text)
     QTest::keyClicks(Box(), text);
 }
 
+void ComboTest::PressHandle()
+{
+    QTest::mousePress(Slider(), Qt::LeftButton, Qt::NoModifier, UserInput::HandleOf(Slider()).center());
+}
+
+void ComboTest::Release(const QPoint& position)
+{
+    QTest::mouseRelease(Slider(), Qt::LeftButton, Qt::NoModifier, position);
+}
+
+QPoint ComboTest::Away() const
+{
+    return UserInput::PointOf(Slider(), Slider()->maximum() / 2);
+}
+
 void ComboTest::OnChange(const std::function<void(double)>& action)
 {
     if (auto* combo = qobject_cast<QComboSpinBox*>(m_combo.data())) {

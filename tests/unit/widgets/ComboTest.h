@@ -43,6 +43,11 @@ protected:
 
     /// Types \p text over all that the spin box shows.
     void Type(const QString& text);
+    /// Takes hold of the slider's handle, and lets it go.
+    void PressHandle();
+    void Release(const QPoint& position);
+    /// The point of the slider where the handle stands at half of the range.
+    QPoint Away() const;
     /// Runs \p action with the new value at every ValueChanged.
     void OnChange(const std::function<void(double)>& action);
     /// Runs \p action at every EditFinished.

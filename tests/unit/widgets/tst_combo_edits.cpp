@@ -49,9 +49,6 @@ private Q_SLOTS:
     void heldKeyInTheSpinBoxFinishesOnce();
     void editThatGoesOnInTheOtherHalfFinishesTwice();
 
-    void blockedSignalsStillKeepBothHalvesTogether();
-    void valueSetDuringADragIsNotFinished();
-    void settingTheTellingValueKeepsTheDrag();
     void destroyedInTheMiddleOfAWheelRun_data();
     void destroyedInTheMiddleOfAWheelRun();
     void destroyedByItsFinish_data();
@@ -60,9 +57,6 @@ private Q_SLOTS:
 
 private:
     QWidget* Half(bool isSlider) const { return isSlider ? static_cast<QWidget*>(Slider()) : Box(); }
-    void PressHandle();
-    void Release(const QPoint& position);
-    QPoint Away() const { return PointOf(Slider(), Slider()->maximum() / 2); }
 };
 
 namespace {
@@ -75,16 +69,6 @@ void HalfRows()
 }
 
 } // namespace
-
-void TestComboEdits::PressHandle()
-{
-    QTest::mousePress(Slider(), Qt::LeftButton, Qt::NoModifier, HandleOf(Slider()).center());
-}
-
-void TestComboEdits::Release(const QPoint& position)
-{
-    QTest::mouseRelease(Slider(), Qt::LeftButton, Qt::NoModifier, position);
-}
 
 void TestComboEdits::dragTellsEveryChangeAndFinishesOnce()
 {
@@ -349,47 +333,6 @@ void TestComboEdits::editThatGoesOnInTheOtherHalfFinishesTwice()
     QCOMPARE(m_changes.first(), 12.0);
     Release(Away());
     QCOMPARE(m_finished, 2);
-}
-
-void TestComboEdits::blockedSignalsStillKeepBothHalvesTogether()
-{
-    m_combo->blockSignals(true);
-    PressHandle();
-    DragTo(Slider(), Away());
-    Release(Away());
-    QVERIFY(qAbs(Value() - 50) < 2);
-    QCOMPARE(BoxValue(), Value());
-
-    QVERIFY(Focus(Box()));
-    Type(QStringLiteral("100"));
-    QTest::keyClick(Box(), Qt::Key_Return);
-    QCOMPARE(Value(), 100.0);
-    QCOMPARE(Slider()->value(), Slider()->maximum());
-    m_combo->blockSignals(false);
-    m_window->FocusElsewhere();
-    QVERIFY(m_changes.isEmpty());
-    QCOMPARE(m_finished, 0);
-}
-
-void TestComboEdits::valueSetDuringADragIsNotFinished()
-{
-    PressHandle();
-    DragTo(Slider(), Away());
-    SetValue(9);
-    Release(Away());
-    QCOMPARE(Value(), 9.0);
-    QCOMPARE(m_finished, 0);
-    m_window->FocusElsewhere();
-    QCOMPARE(m_finished, 0);
-}
-
-void TestComboEdits::settingTheTellingValueKeepsTheDrag()
-{
-    OnChange([this](double value) { SetValue(value); });
-    PressHandle();
-    DragTo(Slider(), Away());
-    Release(Away());
-    QCOMPARE(m_finished, 1);
 }
 
 void TestComboEdits::destroyedInTheMiddleOfAWheelRun_data()

@@ -24,6 +24,9 @@ private Q_SLOTS:
     void setValueIsBroughtIntoTheRange();
     void setValueFinishesNothing();
     void blockedSignalsStillUpdateBothHalves();
+    void blockedSignalsStillKeepBothHalvesTogether();
+    void valueSetDuringADragIsNotFinished();
+    void settingTheTellingValueKeepsTheDrag();
     void narrowerRangeChangesTheValue_data();
     void narrowerRangeChangesTheValue();
     void rangeWithoutRoomIsBearable();
@@ -93,6 +96,47 @@ void TestComboSpinBox::blockedSignalsStillUpdateBothHalves()
     QCOMPARE(BoxValue(), 50.0);
     QCOMPARE(Slider()->value(), Slider()->maximum() / 2);
     QVERIFY(m_changes.isEmpty());
+}
+
+void TestComboSpinBox::blockedSignalsStillKeepBothHalvesTogether()
+{
+    m_combo->blockSignals(true);
+    PressHandle();
+    UserInput::DragTo(Slider(), Away());
+    Release(Away());
+    QVERIFY(qAbs(Value() - 50) < 2);
+    QCOMPARE(BoxValue(), Value());
+
+    QVERIFY(UserInput::Focus(Box()));
+    Type(QStringLiteral("100"));
+    QTest::keyClick(Box(), Qt::Key_Return);
+    QCOMPARE(Value(), 100.0);
+    QCOMPARE(Slider()->value(), Slider()->maximum());
+    m_combo->blockSignals(false);
+    m_window->FocusElsewhere();
+    QVERIFY(m_changes.isEmpty());
+    QCOMPARE(m_finished, 0);
+}
+
+void TestComboSpinBox::valueSetDuringADragIsNotFinished()
+{
+    PressHandle();
+    UserInput::DragTo(Slider(), Away());
+    SetValue(9);
+    Release(Away());
+    QCOMPARE(Value(), 9.0);
+    QCOMPARE(m_finished, 0);
+    m_window->FocusElsewhere();
+    QCOMPARE(m_finished, 0);
+}
+
+void TestComboSpinBox::settingTheTellingValueKeepsTheDrag()
+{
+    OnChange([this](double value) { SetValue(value); });
+    PressHandle();
+    UserInput::DragTo(Slider(), Away());
+    Release(Away());
+    QCOMPARE(m_finished, 1);
 }
 
 void TestComboSpinBox::narrowerRangeChangesTheValue_data()

@@ -1,0 +1,236 @@
+#include "host/services/HostApplication.h"
+#include "tests/support/PanelFixture.h"
+#include "tests/support/SampleModels.h"
+#include "tests/support/TestCase.h"
+
+#include <MVPluginQt/PluginInterface.h>
+#include <MVPluginQt/SectionInterface.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QPluginLoader>
+#include <QProcess>
+#include <QResource>
+#include <QtEndian>
+
+#include <elf.h>
+
+#include <cstring>
+#include <memory>
+
+/// The built library as the host's plug-in loader sees it.
+class TestPluginLibrary : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void exportsTheTwoEntryPointsAndNothingElse();
+    void metadataSectionIsByteForByteAsDescribed();
+    void instanceIsCreatedOnceAndAgainAfterItsEnd();
+    void metaCastAnswers_data();
+    void metaCastAnswers();
+    void metaCastGivesTheSamePluginInterface();
+    void sectionValues_data();
+    void sectionValues();
+    void sectionsAreListedInOrder();
+    void resourceFileHoldsTheForms();
+    void resourceFileHasNoTimeStamps();
+    void mainWindowMayDieBeforeThePlugin();
+};
+
+namespace {
+
+const QString libraryFile = QStringLiteral(SOFTCLOTH_PLUGIN_FILE);
+
+QByteArray ReadAll(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
+    }
+    return file.readAll();
+}
+
+template <class Struct>
+Struct At(const QByteArray& bytes, quint64 offset)
+{
+    Struct value;
+    std::memcpy(&value, bytes.constData() + offset, sizeof(Struct));
+    return value;
+}
+
+/// The contents of a section of a 64-bit ELF file.
+QByteArray ElfSection(const QByteArray& file, const char* name)
+{
+    const auto header = At<Elf64_Ehdr>(file, 0);
+    const auto section = [&](int index) {
+        return At<Elf64_Shdr>(file, header.e_shoff + quint64(index) * header.e_shentsize);
+    };
+    const Elf64_Shdr names = section(header.e_shstrndx);
+    for (int i = 0; i < header.e_shnum; ++i) {
+        const Elf64_Shdr candidate = section(i);
+        if (std::strcmp(file.constData() + names.sh_offset + candidate.sh_name, name) == 0) {
+            return file.mid(int(candidate.sh_offset), int(candidate.sh_size));
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+void TestPluginLibrary::exportsTheTwoEntryPointsAndNothingElse()
+{
+    QProcess nm;
+    nm.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"), libraryFile});
+    QVERIFY(nm.waitForFinished());
+    QCOMPARE(nm.exitCode(), 0);
+    QStringList names;
+    const QList<QByteArray> lines = nm.readAllStandardOutput().split('\n');
+    for (const QByteArray& line : lines) {
+        if (!line.isEmpty()) {
+            names.append(QString::fromLatin1(line.mid(line.lastIndexOf(' ') + 1)));
+        }
+    }
+    names.sort();
+    QCOMPARE(names, (QStringList{QStringLiteral("qt_plugin_instance"), QStringLiteral("qt_plugin_query_metadata")}));
+}
+
+void TestPluginLibrary::metadataSectionIsByteForByteAsDescribed()
+{
+    const QByteArray iid = "Brightfold.Movira.CPluginInterface/7.0";
+    const QByteArray className = "CPhysicsSoftClothPlugin";
+    QCOMPARE(iid.size(), 38);
+    QCOMPARE(className.size(), 23);
+    QByteArray expected = "QTMETADATA !";
+    expected += QByteArray::fromHex("00 050f 00"); // format, Qt 5.15, no requirements
+    expected += QByteArray::fromHex("bf");         // a map of indefinite length
+    expected += QByteArray::fromHex("02 7826") + iid;
+    expected += QByteArray::fromHex("03 77") + className;
+    expected += QByteArray::fromHex("ff");
+    QCOMPARE(ElfSection(ReadAll(libraryFile), ".qtmetadata").toHex(' '), expected.toHex(' '));
+}
+
+void TestPluginLibrary::instanceIsCreatedOnceAndAgainAfterItsEnd()
+{
+    QPluginLoader loader(libraryFile);
+    const QPointer<QObject> first = loader.instance();
+    QVERIFY(first);
+    QCOMPARE(loader.instance(), first.data());
+    QVERIFY(!first->parent());
+    QCOMPARE(first->metaObject()->className(), "MV::CPhysicsSoftClothPlugin");
+    delete first.data();
+    const std::unique_ptr<QObject> second(loader.instance());
+    QVERIFY(second);
+}
+
+void TestPluginLibrary::metaCastAnswers_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<bool>("answers");
+    for (const char* name : {"MV::CPhysicsSoftClothPlugin", "CQtUiLoader", "CAbstractPlugin",
+                             "Brightfold.Movira.CPluginInterface/7.0", "QWidget", "QObject"}) {
+        QTest::newRow(name) << QByteArray(name) << true;
+    }
+    for (const char* name : {"CPhysicsSoftClothPlugin", "Brightfold.Movira.CPluginInterface/6.0", "QDialog"}) {
+        QTest::newRow(name) << QByteArray(name) << false;
+    }
+}
+
+void TestPluginLibrary::metaCastAnswers()
+{
+    QFETCH(const QByteArray, name);
+    QFETCH(const bool, answers);
+    QPluginLoader loader(libraryFile);
+    const std::unique_ptr<QObject> plugin(loader.instance());
+    QCOMPARE(plugin->qt_metacast(name.constData()) != nullptr, answers);
+}
+
+void TestPluginLibrary::metaCastGivesTheSamePluginInterface()
+{
+    QPluginLoader loader(libraryFile);
+    const std::unique_ptr<QObject> plugin(loader.instance());
+    QCOMPARE(plugin->qt_metacast("CAbstractPlugin"), plugin->qt_metacast("Brightfold.Movira.CPluginInterface/7.0"));
+    auto* interface = qobject_cast<MV::CPluginInterface*>(plugin.get());
+    QVERIFY(interface);
+    QCOMPARE(quint32(interface->GetCompatibleApps()), 0x1800007U);
+}
+
+void TestPluginLibrary::sectionValues_data()
+{
+    QTest::addColumn<QString>("form");
+    QTest::addColumn<int>("order");
+    QTest::newRow("property") << QStringLiteral("SoftClothProperty") << 16;
+    QTest::newRow("collision") << QStringLiteral("SoftClothCollision") << 32;
+    QTest::newRow("wind") << QStringLiteral("SoftClothWindSetting") << 48;
+}
+
+void TestPluginLibrary::sectionValues()
+{
+    QFETCH(const QString, form);
+    QFETCH(const int, order);
+    PanelFixture fixture;
+    const QWidget* section = fixture.Section(qPrintable(form))->parentWidget();
+    for (MV::CSectionInterface* candidate : fixture.Plugin().Sections()) {
+        if (candidate->GetSectionWidget() == section) {
+            QCOMPARE(candidate->GetSectionPage(), 4);
+            QCOMPARE(candidate->GetSectionOrder(), order);
+            QCOMPARE(candidate->GetSectionApplications(), 7);
+            return;
+        }
+    }
+    QFAIL("the form belongs to no section");
+}
+
+void TestPluginLibrary::sectionsAreListedInOrder()
+{
+    PanelFixture fixture;
+    QList<MV::CSectionInterface*> listed;
+    QCOMPARE(fixture.Plugin().Plugin()->GetSectionList(listed), BF::Results::Success);
+    QCOMPARE(listed.size(), 4);
+    int last = -1;
+    for (MV::CSectionInterface* section : listed) {
+        if (section) {
+            QVERIFY(section->GetSectionOrder() > last);
+            last = section->GetSectionOrder();
+        }
+    }
+}
+
+void TestPluginLibrary::resourceFileHoldsTheForms()
+{
+    PanelFixture fixture;
+    const QString root = QStringLiteral(":/plugin/MVPhysicsSoftClothSection/");
+    for (const char* file : {"SoftClothCollision.ui", "LayoutUI.ini"}) {
+        QVERIFY2(QFileInfo(root + QLatin1String(file)).isFile(), file);
+    }
+}
+
+void TestPluginLibrary::resourceFileHasNoTimeStamps()
+{
+    const QString path = QFileInfo(libraryFile).path() + QStringLiteral("/MVPhysicsSoftClothSection.rcc");
+    const QByteArray bytes = ReadAll(path);
+    QCOMPARE(bytes.left(4), QByteArray("qres"));
+    // Only format 1 keeps none.
+    QCOMPARE(qFromBigEndian<quint32>(bytes.constData() + 4), 1U);
+}
+
+void TestPluginLibrary::mainWindowMayDieBeforeThePlugin()
+{
+    Host::HostApplication host;
+    auto window = std::make_unique<QMainWindow>();
+    host.SetMainWindow(window.get());
+    Host::PluginHost plugin(host);
+    QVERIFY2(plugin.Start(libraryFile, MV::ECompatibleApp::Both), qPrintable(plugin.Error()));
+    auto* panel = new Host::ModifyPanel;
+    panel->SetSections(plugin.Sections());
+    window->setCentralWidget(panel);
+    host.AddModel(SampleModels::Hero());
+    window.reset();
+    QVERIFY(plugin.Sections().isEmpty());
+    host.SetPlaying(true);
+    host.SetPlaying(false);
+    plugin.Stop();
+}
+
+QTEST_MAIN(TestPluginLibrary)
+#include "tst_plugin_library.moc"

@@ -1,0 +1,147 @@
+#include "sections/SoftClothPropertySection.h"
+#include "tests/support/Children.h"
+#include "tests/support/TestCase.h"
+#include "tests/unit/sections/FormChecks.h"
+#include "tests/unit/sections/SectionFixture.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+
+using Section = MV::CSoftClothPropertySection;
+
+/// The property section's form and how it gets there.
+class TestPropertyForm : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void componentFindsEveryObjectInOrder();
+    void formHasTypedObjects_data();
+    void formHasTypedObjects();
+    void boxesHaveSensibleRanges_data();
+    void boxesHaveSensibleRanges();
+    void boxesExplainThemselves();
+    void tabGoesThroughTheBoxesFromTopToBottom();
+    void sectionStandsAtItsPlace();
+    void nothingHappensWithoutAHost();
+    void missingFormIsReturned();
+};
+
+void TestPropertyForm::componentFindsEveryObjectInOrder()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    CSoftClothPropertyUiComponent component;
+    FormChecks::Component(component, *Child<QWidget>(&section, "SoftClothProperty"),
+                          "verticalLayout_9 verticalLayout_8 verticalLayout_7 verticalLayout_6 gridLayout "
+                          "verticalLayout verticalLayout_2 qtBendingCombospinbox qtInertiaScaleCombospinbox "
+                          "qtStiffnessCombospinbox qtTetherStiffnessCombospinbox qtDampingDoubleEXSpinBox "
+                          "qtDragDoubleEXSpinBox qtFricionDoubleEXSpinBox qtTetherLimitDoubleEXSpinBox "
+                          "qtSectionGroupBox label_10 label_3 label_4 label_5 label_7 label_9 qtExpandPushButton "
+                          "qtMassEXSpinBox qtSolverFrequencyEXSpinBox SoftClothProperty");
+}
+
+void TestPropertyForm::formHasTypedObjects_data()
+{
+    FormChecks::AddClassColumns();
+    using FormChecks::AddClassRow;
+    AddClassRow("QVBoxLayout", "verticalLayout_9 verticalLayout_8 verticalLayout_7 verticalLayout_6 verticalLayout "
+                               "verticalLayout_2");
+    AddClassRow("QGridLayout", "gridLayout");
+    AddClassRow("QComboSpinBox", "qtBendingCombospinbox qtInertiaScaleCombospinbox qtStiffnessCombospinbox "
+                                 "qtTetherStiffnessCombospinbox");
+    AddClassRow("QDoubleSpinBoxEx", "qtDampingDoubleEXSpinBox qtDragDoubleEXSpinBox qtFricionDoubleEXSpinBox "
+                                    "qtTetherLimitDoubleEXSpinBox");
+    AddClassRow("QSpinBoxEx", "qtMassEXSpinBox qtSolverFrequencyEXSpinBox");
+    AddClassRow("QGroupBox", "qtSectionGroupBox");
+    AddClassRow("QLabel", "label_10 label_3 label_4 label_5 label_7 label_9");
+    AddClassRow("QPushButton", "qtExpandPushButton");
+    AddClassRow("QWidget", "SoftClothProperty");
+}
+
+void TestPropertyForm::formHasTypedObjects()
+{
+    SectionFixture fixture;
+    FormChecks::Classes(fixture.Make<Section>());
+}
+
+void TestPropertyForm::boxesHaveSensibleRanges_data()
+{
+    FormChecks::AddRangeColumns();
+    QTest::newRow("mass") << QByteArray("qtMassEXSpinBox") << 0.0 << 10000.0 << 1.0 << QStringLiteral(" kg");
+    QTest::newRow("solver frequency") << QByteArray("qtSolverFrequencyEXSpinBox") << 1.0 << 1000.0 << 10.0
+                                      << QStringLiteral(" Hz");
+    QTest::newRow("friction") << QByteArray("qtFricionDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
+    QTest::newRow("damping") << QByteArray("qtDampingDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
+    QTest::newRow("drag") << QByteArray("qtDragDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
+    QTest::newRow("tether limit") << QByteArray("qtTetherLimitDoubleEXSpinBox") << 0.0 << 10.0 << 0.05
+                                  << QStringLiteral("");
+    QTest::newRow("stiffness") << QByteArray("qtStiffnessCombospinbox") << 0.0 << 100.0 << 1.0 << QStringLiteral(" %");
+    QTest::newRow("bending") << QByteArray("qtBendingCombospinbox") << 0.0 << 100.0 << 1.0 << QStringLiteral(" %");
+    QTest::newRow("tether stiffness") << QByteArray("qtTetherStiffnessCombospinbox") << 1.0 << 101.0 << 1.0
+                                      << QStringLiteral("");
+    QTest::newRow("inertia, in tenths") << QByteArray("qtInertiaScaleCombospinbox") << 0.0 << 20.0 << 1.0
+                                        << QStringLiteral("");
+}
+
+void TestPropertyForm::boxesHaveSensibleRanges()
+{
+    SectionFixture fixture;
+    FormChecks::Range(fixture.Make<Section>());
+}
+
+void TestPropertyForm::boxesExplainThemselves()
+{
+    SectionFixture fixture;
+    FormChecks::Help(fixture.Make<Section>(), 10);
+}
+
+void TestPropertyForm::tabGoesThroughTheBoxesFromTopToBottom()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    QVERIFY(fixture.Show(section));
+    FormChecks::TabOrder(section, "qtExpandPushButton qtMassEXSpinBox qtSolverFrequencyEXSpinBox "
+                                  "qtFricionDoubleEXSpinBox qtDampingDoubleEXSpinBox qtDragDoubleEXSpinBox "
+                                  "qtTetherLimitDoubleEXSpinBox qtTetherStiffnessCombospinbox "
+                                  "qtStiffnessCombospinbox qtBendingCombospinbox qtInertiaScaleCombospinbox");
+}
+
+void TestPropertyForm::sectionStandsAtItsPlace()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    QCOMPARE(fixture.initialised, BF::Results::Success);
+    QCOMPARE(section.GetSectionPage(), 4);
+    QCOMPARE(section.GetSectionOrder(), 16);
+    QCOMPARE(section.GetSectionApplications(), 7);
+    QCOMPARE(section.GetSectionWidget(), &section);
+    QVERIFY(section.AbleToShowSection());
+    QVERIFY(section.isHidden());
+    section.SetSectionExpandState(false);
+    QVERIFY(Child<QGroupBox>(&section, "qtSectionGroupBox")->isHidden());
+    QVERIFY(!Child<QPushButton>(&section, "qtExpandPushButton")->isChecked());
+}
+
+void TestPropertyForm::nothingHappensWithoutAHost()
+{
+    SectionFixture fixture;
+    Section section(&fixture.plugin);
+    QCOMPARE(section.Init(QString(), QString(), nullptr), BF::Results::InvalidArgument);
+    QVERIFY(section.children().isEmpty());
+    QCOMPARE(section.UpdateUi(), BF::Results::InvalidArgument);
+    QCOMPARE(fixture.TakeCalls(), QStringList());
+}
+
+void TestPropertyForm::missingFormIsReturned()
+{
+    Host::HostApplication host;
+    MV::CPhysicsSoftClothPlugin plugin;
+    Section section(&plugin);
+    ExpectWarning(QStringLiteral("SoftClothProperty.ui"));
+    QCOMPARE(section.Init(QString(), QString(), &host), BF::Results::ResourceFailure);
+    QVERIFY(!section.AbleToShowSection());
+}
+
+QTEST_MAIN(TestPropertyForm)
+#include "tst_property_form.moc"
