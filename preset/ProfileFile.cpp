@@ -24,7 +24,20 @@ std::optional<QByteArray> ReadAll(const QString& path)
 bool WriteAll(const QString& path, const QByteArray& content)
 {
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    // Flushed by hand: what does not fit on a full disk at the commit only would go unnoticed.
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
+}
+
+/// Whether \p content is all that a store has written of \p keys keys, each on a line of its own between the headers
+/// and the blank lines of the groups. The store itself does not notice when its last block does not fit on the disk.
+bool IsWhole(const QByteArray& content, int keys)
+{
+    for (const QByteArray& line : content.split('\n')) {
+        if (!line.trimmed().isEmpty() && !line.startsWith('[')) {
+            --keys;
+        }
+    }
+    return keys == 0 && content.endsWith('\n');
 }
 
 /// What the file at \p path is to contain: what it contains now, with the groups saved over it.
@@ -47,7 +60,9 @@ std::optional<QByteArray> MergedContent(const QString& path, const std::vector<P
         profile.endGroup();
     }
     profile.sync();
-    return profile.status() == QSettings::AccessError ? std::nullopt : ReadAll(copy);
+    const auto content = ReadAll(copy);
+    const bool isWritten = profile.status() != QSettings::AccessError;
+    return isWritten && content && IsWhole(*content, profile.allKeys().size()) ? content : std::nullopt;
 }
 
 } // namespace
