@@ -82,10 +82,7 @@ BF::Result EditService::EditObject(BF::CHandle* object, const QString& text, MV:
     ObjectState state = found->state;
     change(state);
     edit.objects.push_back({object, {}, state});
-    if (CurrentScene().Push(std::move(edit))) {
-        App().Send("ObjectDataChanged", &MV::CEventSender::ObjectDataChanged, BF::CArrayList<BF::CHandle*>{object},
-                   changedData);
-    }
+    App().PushObjectEdit(object, std::move(edit), changedData);
     return BF::Results::Success;
 }
 
@@ -103,8 +100,7 @@ BF::Result EditService::ConvertToRigidBody(BF::CHandle* object)
 BF::Result EditService::CancelMultiMaterialSoftCloth(BF::CHandle* object)
 {
     return Record("CancelMultiMaterialSoftCloth", {In(object)}, [&] {
-        return EditObject(object, App().tr("Soft cloth off"), MV::EObjectChangedDataType::Topology,
-                          [](ObjectState& state) { state.softCloth = false; });
+        return App().CancelSoftCloth(object) ? BF::Results::Success : BF::Results::InvalidArgument;
     });
 }
 

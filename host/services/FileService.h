@@ -3,9 +3,11 @@
 #include "host/services/ServiceBase.h"
 #include "plugin/services/FileService.h"
 
+#include <functional>
+
 namespace Host {
 
-/// MV::CFileService: weight images from and to files. The host has no profiles of its own and refuses to load any.
+/// MV::CFileService: weight images from and to files, and the values of profiles.
 class FileService final : public MV::CFileService, private ServiceBase
 {
 public:
@@ -15,6 +17,9 @@ public:
     BF::Result LoadWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path, int mode) override;
     BF::Result LoadSoftIniProfile(const std::wstring& path) override;
     BF::Result SaveWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path) override;
+
+private:
+    BF::Result ChangeCloths(const Object& object, const std::function<void(ClothState&)>& change);
 };
 
 } // namespace Host

@@ -315,12 +315,8 @@ bool HostApplication::SetSoftClothActive(BF::CHandle* object, bool active)
     state.softCloth = active;
     state.rigidBody = state.rigidBody && !active;
     edit.objects.push_back({object, {}, state});
-    const std::vector<ClothAddress> all = Scene::SlotsOf(*found);
-    const bool someActive = std::any_of(all.begin(), all.end(), [this](const ClothAddress& address) {
-        return m_scene->FindSlot(address)->cloth.active;
-    });
-    if (active && !someActive) {
-        for (const ClothAddress& address : all) {
+    if (active && ActiveSlotCount(*found) == 0) {
+        for (const ClothAddress& address : Scene::SlotsOf(*found)) {
             if (m_scene->MayTakePart(address.material)) {
                 ClothState cloth = m_scene->FindSlot(address)->cloth;
                 cloth.active = true;
@@ -328,11 +324,52 @@ bool HostApplication::SetSoftClothActive(BF::CHandle* object, bool active)
             }
         }
     }
-    if (m_scene->Push(std::move(edit))) {
-        Send("ObjectDataChanged", &CEventSender::ObjectDataChanged, Objects{object},
-             MV::EObjectChangedDataType::Topology);
-    }
+    PushObjectEdit(object, std::move(edit));
     return true;
+}
+
+void HostApplication::ConvertToSoftCloth(BF::CHandle* object)
+{
+    const Object* found = m_scene->FindObject(object);
+    const int activeBefore = found ? ActiveSlotCount(*found) : 0;
+    if (SetSoftClothActive(object, true) && ActiveSlotCount(*found) > activeBefore + 1) {
+        Send("PhysicsSoftClothMultiMaterialsDetected", &CEventSender::PhysicsSoftClothMultiMaterialsDetected, object);
+    }
+}
+
+bool HostApplication::CancelSoftCloth(BF::CHandle* object)
+{
+    const Object* found = m_scene->FindObject(object);
+    if (!found) {
+        return false;
+    }
+    SceneEdit edit;
+    edit.text = tr("Cancel soft cloth");
+    ObjectState state = found->state;
+    state.softCloth = false;
+    edit.objects.push_back({object, {}, state});
+    for (const ClothAddress& address : Scene::SlotsOf(*found)) {
+        ClothState cloth = m_scene->FindSlot(address)->cloth;
+        cloth.active = false;
+        edit.cloths.push_back({address, {}, cloth});
+    }
+    PushObjectEdit(object, std::move(edit));
+    return true;
+}
+
+void HostApplication::PushObjectEdit(BF::CHandle* object, SceneEdit edit, MV::EObjectChangedDataType changedData)
+{
+    if (m_scene->Push(std::move(edit))) {
+        Send("ObjectDataChanged", &CEventSender::ObjectDataChanged, Objects{object}, changedData);
+    }
+}
+
+int HostApplication::ActiveSlotCount(const Object& object) const
+{
+    const std::vector<ClothAddress> all = Scene::SlotsOf(object);
+    return int(std::count_if(all.begin(), all.end(), [this](const ClothAddress& address) {
+        return m_scene->FindSlot(address)->cloth.active;
+    }));
 }
 
 } // namespace Host

@@ -101,9 +101,18 @@ public:
 
     // Edits that more than one caller makes.
 
+    /// Pushes an edit of one object; when it changes something, says which of the object's data changed.
+    void PushObjectEdit(BF::CHandle* object, SceneEdit edit,
+                        MV::EObjectChangedDataType changedData = MV::EObjectChangedDataType::Topology);
     /// Switches soft cloth physics of an object. Switched on, the materials that may take part become soft cloth
     /// unless some already are. \return false for an unknown object
     bool SetSoftClothActive(BF::CHandle* object, bool active);
+    /// Makes an object soft cloth at the user's command to the host, outside the panel. Where several materials become
+    /// soft cloth at once, the event that tells of it is sent.
+    void ConvertToSoftCloth(BF::CHandle* object);
+    /// Takes all materials of an object out of the soft cloth and switches its physics off.
+    /// \return false for an unknown object
+    bool CancelSoftCloth(BF::CHandle* object);
 
     /// How values stand in the journal.
     JournalText Text() const;
@@ -138,6 +147,7 @@ Q_SIGNALS:
 
 private:
     void StepUndoStack(bool forward);
+    int ActiveSlotCount(const Object& object) const;
 
     std::unique_ptr<Scene> m_scene;
     MV::CEventSender m_eventSender;

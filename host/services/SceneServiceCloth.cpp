@@ -6,8 +6,8 @@ namespace Host {
 BF::Result SceneService::IsSoftClothActive(BF::CHandle* object, Id mesh, Id material, bool& active)
 {
     return ReadSlot("IsSoftClothActive", object, mesh, material, {Out(active)}, [&](const MaterialSlot& slot) {
-        active = CurrentScene().FindObject(object)->state.softCloth && slot.cloth.active &&
-                 CurrentScene().MayTakePart(material);
+        // It stays soft cloth while the object's physics is off, and goes on as it was once that is on again.
+        active = slot.cloth.active && CurrentScene().MayTakePart(material);
     });
 }
 

@@ -91,7 +91,13 @@ void MainWindow::CreateDocks()
     resizeDocks({tree, controls}, {260, 480}, Qt::Vertical);
     resizeDocks({tree, modify}, {270, 330}, Qt::Horizontal);
     connect(m_controls, &HostControls::ApplicationChosen, this, &MainWindow::RestartPlugin);
-    statusBar();
+    m_panelPage = new QLabel(this);
+    m_panelPage->setObjectName(QStringLiteral("panelPage"));
+    m_panelPage->setToolTip(tr("The page of the host's panels that the plug-in asked for last"));
+    statusBar()->addPermanentWidget(m_panelPage);
+    connect(&m_host, &HostApplication::PanelPageRequested, this, [this](int page, int order, int flags) {
+        m_panelPage->setText(tr("Panel page %1, place %2, option %3").arg(page).arg(order).arg(flags));
+    });
 }
 
 void MainWindow::CreateActions()

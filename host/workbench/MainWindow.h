@@ -7,6 +7,8 @@
 
 #include <QMainWindow>
 
+class QLabel;
+
 namespace Host {
 
 class HostControls;
@@ -66,6 +68,7 @@ private:
     PluginHost m_pluginHost; ///< Dies before the host and before the panel that shows its sections.
     ModifyPanel* m_modifyPanel = nullptr;
     HostControls* m_controls = nullptr;
+    QLabel* m_panelPage = nullptr;
     QString m_libraryFile;
     QString m_scenePath;
     bool m_unattended = false;
