@@ -152,6 +152,9 @@ QByteArray HeaderOnly(const QString& suffix, const QSize& size)
     } else if (suffix == QLatin1String("gif")) {
         PutLittle<quint16>(bytes, 6, quint16(size.width()));
         PutLittle<quint16>(bytes, 8, quint16(size.height()));
+        const int picture = bytes.indexOf('\x2c', 13 + 3 * 128); // behind the screen and its colours
+        PutLittle<quint16>(bytes, picture + 5, quint16(size.width()));
+        PutLittle<quint16>(bytes, picture + 7, quint16(size.height()));
     } else if (suffix == QLatin1String("tga")) {
         PutLittle<quint16>(bytes, 12, quint16(size.width()));
         PutLittle<quint16>(bytes, 14, quint16(size.height()));

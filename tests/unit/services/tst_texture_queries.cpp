@@ -216,7 +216,8 @@ void TestTextureQueries::handleFollowsItsTexture()
     SetTexture(QStringLiteral("linked"));
     BF::CHandle* const thumbnail = Thumbnail();
     QCOMPARE(qGray(Render(thumbnail, {40, 20}).pixel(5, 10)), 0);
-    ImageFile(QStringLiteral("skin.png"), SampleImages::Filled({20, 10}, Qt::red));
+    // A file of another size: the time alone does not tell two writes within one tick of the file system apart.
+    ImageFile(QStringLiteral("skin.png"), SampleImages::Filled({200, 100}, Qt::red));
     QCOMPARE(Render(thumbnail, {40, 20}).pixelColor(5, 10), QColor(Qt::red));
 }
 
