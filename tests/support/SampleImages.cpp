@@ -120,8 +120,7 @@ QByteArray Tga(const QImage& image, const TgaKind& kind)
     for (int line = 0; line < image.height(); ++line) {
         const int y = (kind.descriptor & 0x20) != 0 ? line : image.height() - 1 - line;
         for (int column = 0; column < image.width(); ++column) {
-            const QRgb color =
-                image.pixel((kind.descriptor & 0x10) != 0 ? image.width() - 1 - column : column, y);
+            const QRgb color = image.pixel((kind.descriptor & 0x10) != 0 ? image.width() - 1 - column : column, y);
             pixels.append(isIndexed || isGray ? QByteArray(1, char(qGray(color))) : TgaColor(color, kind.depth));
         }
     }

@@ -166,9 +166,9 @@ QString Message(const QString& text)
 
 QString Question(int answer)
 {
-    return Box(QStringLiteral(
-                   "This object has multiple materials.\n Please select a material and load a gray map image."),
-               0x400400, 0x400, answer);
+    return Box(
+        QStringLiteral("This object has multiple materials.\n Please select a material and load a gray map image."),
+        0x400400, 0x400, answer);
 }
 
 } // namespace Journal

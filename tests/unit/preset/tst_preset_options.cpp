@@ -69,8 +69,8 @@ void TestPresetOptions::gravityIsWrittenWhenSetByCode()
     box->setChecked(true);
     QCOMPARE(fixture.Take(), QStringList());
     box->setChecked(false);
-    QCOMPARE(fixture.Take(), QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"),
-                                                                              QStringLiteral("false")})});
+    QCOMPARE(fixture.Take(),
+             QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"), QStringLiteral("false")})});
 }
 
 void TestPresetOptions::gravityOfAllMaterialsIsOneUndoStep()
@@ -109,8 +109,8 @@ void TestPresetOptions::affectAllMaterialsGoesWithTheNextGravityWrite()
     fixture.AddCloth();
     fixture.Click("qtAffectAllMaterialsCheckBox");
     fixture.Click("qtUseWorldGravityCheckBox");
-    QCOMPARE(fixture.Take(), QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"),
-                                                                              QStringLiteral("true")})});
+    QCOMPARE(fixture.Take(),
+             QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"), QStringLiteral("true")})});
 }
 
 void TestPresetOptions::paintButtonTogglesTheWeightMaps()
@@ -143,8 +143,9 @@ void TestPresetOptions::rigidBodyIsConvertedAndItsPageShown()
     PresetFixture fixture;
     const Host::Object& flag = fixture.AddCloth(Convertible());
     QVector<int> page;
-    connect(&fixture.host, &Host::HostApplication::PanelPageRequested, this,
-            [&page](int number, int order, int flags) { page = {number, order, flags}; });
+    connect(&fixture.host, &Host::HostApplication::PanelPageRequested, this, [&page](int number, int order, int flags) {
+        page = {number, order, flags};
+    });
     fixture.Click("qtRigidBodyRadioButton");
     QCOMPARE(fixture.Take(), (QStringList{QStringLiteral("GetSelectedObject(0) -> \"Flag\""),
                                           QStringLiteral("ConvertToRigidBody(\"Flag\") -> 0"),

@@ -37,9 +37,9 @@ private Q_SLOTS:
     void playingDisablesTheWholeSection();
 
 private:
-    static constexpr const char* enabled[] = {"qtOpenFilePushButton",         "qtSaveFilePushButton",
-                                              "qtUseWorldGravityCheckBox",    "qtAffectAllMaterialsCheckBox",
-                                              "qtSoftPresetGroupBox",         "qtPaintPushButton"};
+    static constexpr const char* enabled[] = {"qtOpenFilePushButton",      "qtSaveFilePushButton",
+                                              "qtUseWorldGravityCheckBox", "qtAffectAllMaterialsCheckBox",
+                                              "qtSoftPresetGroupBox",      "qtPaintPushButton"};
     static constexpr const char* radioButtons[] = {"qtRigidBodyRadioButton", "qtSoftClothRadioButton"};
 };
 
@@ -238,8 +238,8 @@ void TestPresetRefresh::changedGravityIsWrittenOnce()
     };
     QCOMPARE(refresh(), QStringList());
     fixture.Cloth(hero).useGlobalGravity = false;
-    QCOMPARE(refresh(), QStringList{fixture.Call("SetUseGlobalGravity",
-                                                 {QStringLiteral("false"), QStringLiteral("false")})});
+    QCOMPARE(refresh(),
+             QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"), QStringLiteral("false")})});
     QCOMPARE(refresh(), QStringList());
 }
 
@@ -251,8 +251,8 @@ void TestPresetRefresh::gravityIsAskedForWithAffectAllMaterials()
         fixture.Selection().affectAllMaterials = all;
         fixture.section->UpdateUi(true);
         QCOMPARE(fixture.Take().last(),
-                 fixture.Call("GetUseGlobalGravity", {QStringLiteral("true"), Host::JournalText(
-                                                          fixture.host.CurrentScene())(all)}));
+                 fixture.Call("GetUseGlobalGravity",
+                              {QStringLiteral("true"), Host::JournalText(fixture.host.CurrentScene())(all)}));
     }
 }
 

@@ -238,10 +238,9 @@ void TestPresetSwitch::confirmationOpensTheWeightMaps()
     fixture.Add();
     fixture.host.Answers().AddButton(QMessageBox::Ok);
     fixture.Click(activeBox);
-    QCOMPARE(fixture.Take(),
-             (QStringList{fixture.Call("IsSoftClothActive", {QStringLiteral("false")}),
-                          Journal::Question(QMessageBox::Ok), getDialogMode.arg(0),
-                          QStringLiteral("SetDialogMode(25) -> 0")}));
+    QCOMPARE(fixture.Take(), (QStringList{fixture.Call("IsSoftClothActive", {QStringLiteral("false")}),
+                                          Journal::Question(QMessageBox::Ok), getDialogMode.arg(0),
+                                          QStringLiteral("SetDialogMode(25) -> 0")}));
     QVERIFY(fixture.plugin->MaterialDlg()->isVisible());
     QVERIFY(!fixture.IsChecked(activeBox));
     QVERIFY(!fixture.IsEnabled("qtOpenFilePushButton"));

@@ -82,18 +82,17 @@ void TestProfileDialogs::dialogsAskForTheRightThing()
     DialogFixture fixture;
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     QVERIFY(QDir().mkpath(folder));
-    UserDialogs::WithFileDialog([&] { fixture.Invoke(slot); },
-                                [&](QFileDialog& dialog) {
-                                    QCOMPARE(dialog.windowTitle(), title);
-                                    QCOMPARE(dialog.parentWidget(), fixture.section.data());
-                                    QCOMPARE(dialog.nameFilters(), QStringList{QStringLiteral("INI Files (*.ini)")});
-                                    QCOMPARE(dialog.directory().absolutePath(), folder);
-                                    QCOMPARE(dialog.acceptMode(),
-                                             saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-                                    QCOMPARE(dialog.fileMode(),
-                                             saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-                                    dialog.reject();
-                                });
+    UserDialogs::WithFileDialog(
+        [&] { fixture.Invoke(slot); },
+        [&](QFileDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), title);
+            QCOMPARE(dialog.parentWidget(), fixture.section.data());
+            QCOMPARE(dialog.nameFilters(), QStringList{QStringLiteral("INI Files (*.ini)")});
+            QCOMPARE(dialog.directory().absolutePath(), folder);
+            QCOMPARE(dialog.acceptMode(), saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+            QCOMPARE(dialog.fileMode(), saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+            dialog.reject();
+        });
     QCOMPARE(fixture.Take().first(), QStringLiteral("GetDefaultFolder(\"%1\", 72) -> 0").arg(folder));
 }
 
@@ -185,8 +184,8 @@ void TestProfileDialogs::missingSectionsAreNotSaved()
     fixture.Choose(saveButton, path);
     QSettings saved(path, QSettings::IniFormat);
     QCOMPARE(saved.value(QStringLiteral("Wind_Setting/Wind_Frequency")), QVariant(QStringLiteral("7")));
-    QCOMPARE(saved.childGroups(), (QStringList{QStringLiteral("Preset"), QStringLiteral("Property"),
-                                               QStringLiteral("Wind_Setting")}));
+    QCOMPARE(saved.childGroups(),
+             (QStringList{QStringLiteral("Preset"), QStringLiteral("Property"), QStringLiteral("Wind_Setting")}));
 }
 
 void TestProfileDialogs::unwritableTargetIsTold()

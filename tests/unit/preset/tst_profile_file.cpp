@@ -289,8 +289,8 @@ void TestProfileFile::savedGroupsAreInTheFile()
 
 void TestProfileFile::savingKeepsWhatItDoesNotWrite()
 {
-    const QString path = Files::Write(
-        Path("a.ini"), "loose=1\n[Other]\nname=K\xC3\xB6per\nlist=a, b, c\n[Property]\nkey=old\nOwn=9\n");
+    const QString path =
+        Files::Write(Path("a.ini"), "loose=1\n[Other]\nname=K\xC3\xB6per\nlist=a, b, c\n[Property]\nkey=old\nOwn=9\n");
     QCOMPARE(Save(path), EProfileProblem::None);
     QSettings saved(path, QSettings::IniFormat);
     saved.setIniCodec("UTF-8");

@@ -149,8 +149,8 @@ void TestProfileLoad::unchangedGravityBoxWritesOnce()
 {
     LoadFixture fixture;
     QCOMPARE(fixture.Load("[Preset]\nUse_Global_Gravity=true\n"), BF::Results::Success);
-    QCOMPARE(fixture.Take(), QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("true"),
-                                                                              QStringLiteral("false")})});
+    QCOMPARE(fixture.Take(),
+             QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("true"), QStringLiteral("false")})});
 }
 
 void TestProfileLoad::failedGravityWriteEndsTheLoading()
@@ -295,12 +295,16 @@ void TestProfileLoad::oddFilesAreLoaded_data()
     QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF[Property]\nMass=3\n") << property;
     QTest::newRow("carriage returns") << QByteArray("[Property]\r\nMass=3\r\n") << property;
     QTest::newRow("latin 1") << QByteArray("[Property]\nMass=3\nNote=\xE4\xF6\xFC\n[Gr\xFC\xDF]\na=1\n") << property;
-    QTest::newRow("short lists") << QByteArray("[Wind_Setting]\nExternal_Acceleration=7\nRandom_Acceleration=\n") << wind;
+    QTest::newRow("short lists") << QByteArray("[Wind_Setting]\nExternal_Acceleration=7\nRandom_Acceleration=\n")
+                                 << wind;
     QTest::newRow("long lists") << QByteArray("[Wind_Setting]\nExternal_Acceleration=1, 2, 3, 4, 5, 6, 7, 8\n") << wind;
-    QTest::newRow("words for numbers") << QByteArray("[Property]\nMass=heavy\nFriction=some\nStiffness=?\n") << property;
-    QTest::newRow("numbers out of range") << QByteArray(
-        "[Property]\nMass=99999999999999999999\nFriction=1e999\nStiffness=-2147483649\nBending=2147483647\n"
-        "Solver_Frequency=-1\nTether_Limit=nan\nLinear_Inertia_Scale=2147483647\n") << property;
+    QTest::newRow("words for numbers") << QByteArray("[Property]\nMass=heavy\nFriction=some\nStiffness=?\n")
+                                       << property;
+    QTest::newRow("numbers out of range")
+        << QByteArray(
+               "[Property]\nMass=99999999999999999999\nFriction=1e999\nStiffness=-2147483649\nBending=2147483647\n"
+               "Solver_Frequency=-1\nTether_Limit=nan\nLinear_Inertia_Scale=2147483647\n")
+        << property;
     QTest::newRow("list for a number") << QByteArray("[Property]\nMass=1, 2\nFriction=0.5, 1\n") << property;
     QByteArray large = "[Wind_Setting]\n";
     while (large.size() < 10 * 1024 * 1024) {
