@@ -37,7 +37,12 @@ private:
     QTemporaryDir m_home;
 
 protected:
-    void SetUp() override { qputenv("HOME", m_home.path().toLocal8Bit()); }
+    void SetUp() override
+    {
+        // The file dialogs watch the folder, in one test as an ordinary user.
+        Files::OpenToAll(m_home.path());
+        qputenv("HOME", m_home.path().toLocal8Bit());
+    }
 };
 
 namespace {
