@@ -4,6 +4,8 @@
 #include "plugin/services/EditService.h"
 
 #include <QAbstractButton>
+#include <QBuffer>
+#include <QImage>
 #include <QMessageBox>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -143,6 +145,18 @@ void PresetFixture::During(const char* operation, std::function<void()> action)
     });
 }
 
+QByteArray ImageBytes(const QSize& size, const char* format)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(qRgb(200, 40, 40));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format)) {
+        qFatal("no image of the format %s", format);
+    }
+    return bytes;
+}
+
 namespace Journal {
 
 namespace {
@@ -166,9 +180,9 @@ QString Message(const QString& text)
 
 QString Question(int answer)
 {
-    return Box(QStringLiteral(
-                   "This object has multiple materials.\n Please select a material and load a gray map image."),
-               0x400400, 0x400, answer);
+    return Box(
+        QStringLiteral("This object has multiple materials.\n Please select a material and load a gray map image."),
+        0x400400, 0x400, answer);
 }
 
 } // namespace Journal

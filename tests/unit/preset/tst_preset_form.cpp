@@ -57,8 +57,10 @@ void TestPresetForm::componentFindsEveryName()
 void TestPresetForm::namesAreOfTheirClasses_data()
 {
     FormChecks::AddClassColumns();
-    FormChecks::AddClassRow("QCheckBox", "qtActivePhysicsCheckBox qtAffectAllMaterialsCheckBox qtUseWorldGravityCheckBox");
-    FormChecks::AddClassRow("QGroupBox", "qtBaseGroupBox qtSectionGroupBox qtSoftPresetGroupBox qtWeightSelectGroupBox");
+    FormChecks::AddClassRow("QCheckBox",
+                            "qtActivePhysicsCheckBox qtAffectAllMaterialsCheckBox qtUseWorldGravityCheckBox");
+    FormChecks::AddClassRow("QGroupBox",
+                            "qtBaseGroupBox qtSectionGroupBox qtSoftPresetGroupBox qtWeightSelectGroupBox");
     FormChecks::AddClassRow("QListWidget", "qtPresetClothListWidget qtPresetHairListWidget qtPresetWindListWidget");
     FormChecks::AddClassRow("QPushButton",
                             "qtExpandPushButton qtOpenFilePushButton qtPaintPushButton qtSaveFilePushButton");
@@ -82,8 +84,8 @@ void TestPresetForm::tabPagesAreInOrder()
     for (int page = 0; page < tabs->count(); ++page) {
         names.append(tabs->widget(page)->objectName());
     }
-    QCOMPARE(names, (QStringList{QStringLiteral("qtClothTab"), QStringLiteral("qtHairTab"),
-                                 QStringLiteral("qtWindTab")}));
+    QCOMPARE(names,
+             (QStringList{QStringLiteral("qtClothTab"), QStringLiteral("qtHairTab"), QStringLiteral("qtWindTab")}));
     QCOMPARE(tabs->currentIndex(), 0);
 }
 

@@ -17,10 +17,12 @@ private Q_SLOTS:
     void gravityIsWrittenWhenClicked();
     void gravityIsWrittenWhenSetByCode();
     void gravityOfAllMaterialsIsOneUndoStep();
+    void failedGravityWriteIsNotTold();
     void affectAllMaterialsIsOnlyRemembered();
     void affectAllMaterialsGoesWithTheNextGravityWrite();
     void paintButtonTogglesTheWeightMaps();
     void paintButtonReplacesAnotherMode();
+    void failedModeChangeIsNotTold();
     void rigidBodyIsConvertedAndItsPageShown();
     void rigidBodyWithoutSelectionReachesTheHost();
     void rigidBodyIgnoresFailures();
@@ -69,8 +71,8 @@ void TestPresetOptions::gravityIsWrittenWhenSetByCode()
     box->setChecked(true);
     QCOMPARE(fixture.Take(), QStringList());
     box->setChecked(false);
-    QCOMPARE(fixture.Take(), QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"),
-                                                                              QStringLiteral("false")})});
+    QCOMPARE(fixture.Take(),
+             QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"), QStringLiteral("false")})});
 }
 
 void TestPresetOptions::gravityOfAllMaterialsIsOneUndoStep()
@@ -91,6 +93,19 @@ void TestPresetOptions::gravityOfAllMaterialsIsOneUndoStep()
     QVERIFY(fixture.IsChecked("qtUseWorldGravityCheckBox"));
 }
 
+void TestPresetOptions::failedGravityWriteIsNotTold()
+{
+    PresetFixture fixture;
+    const Host::Object& hero = fixture.AddCloth();
+    fixture.host.Faults().FailOperation(QStringLiteral("SetUseGlobalGravity"), BF::Results::Refused);
+    fixture.Click("qtUseWorldGravityCheckBox");
+    QCOMPARE(fixture.Take(),
+             QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"), QStringLiteral("false")},
+                                      "0x80000006")});
+    QVERIFY(!fixture.IsChecked("qtUseWorldGravityCheckBox"));
+    QVERIFY(fixture.Cloth(hero).useGlobalGravity);
+}
+
 void TestPresetOptions::affectAllMaterialsIsOnlyRemembered()
 {
     PresetFixture fixture;
@@ -109,8 +124,8 @@ void TestPresetOptions::affectAllMaterialsGoesWithTheNextGravityWrite()
     fixture.AddCloth();
     fixture.Click("qtAffectAllMaterialsCheckBox");
     fixture.Click("qtUseWorldGravityCheckBox");
-    QCOMPARE(fixture.Take(), QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"),
-                                                                              QStringLiteral("true")})});
+    QCOMPARE(fixture.Take(),
+             QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"), QStringLiteral("true")})});
 }
 
 void TestPresetOptions::paintButtonTogglesTheWeightMaps()
@@ -138,13 +153,24 @@ void TestPresetOptions::paintButtonReplacesAnotherMode()
     QCOMPARE(fixture.Take().last(), QStringLiteral("SetDialogMode(25) -> 0"));
 }
 
+void TestPresetOptions::failedModeChangeIsNotTold()
+{
+    PresetFixture fixture;
+    fixture.AddCloth();
+    fixture.host.Faults().FailOperation(QStringLiteral("SetDialogMode"), BF::Results::Refused);
+    fixture.Click("qtPaintPushButton");
+    QCOMPARE(fixture.Take().last(), QStringLiteral("SetDialogMode(25) -> 0x80000006"));
+    QVERIFY(!fixture.plugin->MaterialDlg()->isVisible());
+}
+
 void TestPresetOptions::rigidBodyIsConvertedAndItsPageShown()
 {
     PresetFixture fixture;
     const Host::Object& flag = fixture.AddCloth(Convertible());
     QVector<int> page;
-    connect(&fixture.host, &Host::HostApplication::PanelPageRequested, this,
-            [&page](int number, int order, int flags) { page = {number, order, flags}; });
+    connect(&fixture.host, &Host::HostApplication::PanelPageRequested, this, [&page](int number, int order, int flags) {
+        page = {number, order, flags};
+    });
     fixture.Click("qtRigidBodyRadioButton");
     QCOMPARE(fixture.Take(), (QStringList{QStringLiteral("GetSelectedObject(0) -> \"Flag\""),
                                           QStringLiteral("ConvertToRigidBody(\"Flag\") -> 0"),
