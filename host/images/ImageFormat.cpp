@@ -168,6 +168,7 @@ ImageHeader GifHeader(const Bytes& bytes)
 
 ImageHeader BmpHeader(const Bytes& bytes)
 {
+    constexpr qint64 fileHeaderSize = 14;
     constexpr quint32 oldHeaderSize = 12;
     constexpr quint32 runLength8 = 1;
     constexpr quint32 runLength4 = 2;
@@ -181,7 +182,9 @@ ImageHeader BmpHeader(const Bytes& bytes)
     const qint64 tooMuch = bytes.Size() + 1; // no product of larger numbers is needed to tell that data are missing
     const qint64 dataSize =
         isRunLength ? bytes.Little<quint32>(34) : std::min(lineSize, tooMuch) * std::min(height, tooMuch);
-    return {ImageFormat::Bmp, SizeOf(width, height), bytes.Has(bytes.Little<quint32>(10), std::max<qint64>(dataSize, 1))};
+    const bool hasHeader = bytes.Has(0, fileHeaderSize + oldHeaderSize);
+    const bool hasData = bytes.Has(bytes.Little<quint32>(10), std::max<qint64>(dataSize, 1));
+    return {ImageFormat::Bmp, SizeOf(width, height), hasHeader && hasData};
 }
 
 } // namespace

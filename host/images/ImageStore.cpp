@@ -136,9 +136,8 @@ const ImageStore::Entry* ImageStore::Find(const Key& key) const
 /// Puts \p image in front, in place of what there was under \p key and of earlier states of the same file.
 ImageStore::Image ImageStore::Keep(const Key& key, Image image)
 {
-    m_entries.remove_if([&key](const Entry& entry) {
-        return entry.key == key || (!key.path.isEmpty() && entry.key.path == key.path);
-    });
+    m_entries.remove_if(
+        [&key](const Entry& entry) { return entry.key == key || (!key.path.isEmpty() && entry.key.path == key.path); });
     m_entries.push_front({key, image});
     qint64 bytes = 0;
     const auto isTooMuch = [&bytes](const Entry& entry) { return (bytes += BytesOf(*entry.image)) > mostBytes; };

@@ -200,15 +200,15 @@ ImageHeader ReadTgaHeader(const QByteArray& bytes)
         return {};
     }
     const qint64 plainSize = qint64(header.width) * header.height * header.PixelBytes();
-    return {ImageFormat::Tga, {header.width, header.height},
+    return {ImageFormat::Tga,
+            {header.width, header.height},
             header.isPacked || bytes.size() - header.PixelsAt() >= plainSize};
 }
 
 QImage ReadTga(const QByteArray& bytes)
 {
     const TgaHeader header(bytes);
-    const std::vector<QRgb> colors =
-        header.coding == Coding::Indexed ? ColorMap(bytes, header) : std::vector<QRgb>{};
+    const std::vector<QRgb> colors = header.coding == Coding::Indexed ? ColorMap(bytes, header) : std::vector<QRgb>{};
     if (header.coding == Coding::Indexed && colors.empty()) {
         return {};
     }

@@ -48,7 +48,9 @@ void AddLines(QVector<QLineF>& lines, const QVector2D& from, const QVector2D& to
 {
     const auto tile = [](float coordinate) { return int(std::floor(coordinate)); };
     // What ends on the border of a tile does not reach into the next one.
-    const auto lastTile = [](float low, float high) { return std::max(int(std::floor(low)), int(std::ceil(high)) - 1); };
+    const auto lastTile = [](float low, float high) {
+        return std::max(int(std::floor(low)), int(std::ceil(high)) - 1);
+    };
     const auto [left, right] = std::minmax({from.x(), to.x()});
     const auto [low, high] = std::minmax({from.y(), to.y()});
     for (int column = tile(left); column <= lastTile(left, right); ++column) {

@@ -28,8 +28,7 @@ int PixelOf(double place, int count)
 
 QPoint PixelAt(const QVector2D& uv, const QSize& size)
 {
-    return {PixelOf(InImage(uv.x()), size.width()),
-            size.height() - 1 - PixelOf(InImage(uv.y()), size.height())};
+    return {PixelOf(InImage(uv.x()), size.width()), size.height() - 1 - PixelOf(InImage(uv.y()), size.height())};
 }
 
 int CountMovingVertices(const Mesh& mesh, const MaterialSlot& slot, const QImage& image, const GrayTable& table)

@@ -34,7 +34,7 @@ struct Texture
 /// Either linked to a file, whose content may change, or embedded.
 struct WeightImage
 {
-    Texture image; ///< Of the two one at most; neither when there is no weight image.
+    Texture image;      ///< Of the two one at most; neither when there is no weight image.
     int brightness = 0; ///< -100 to 100.
     int contrast = 0;   ///< -100 to 100.
 

@@ -51,13 +51,14 @@ QJsonObject TextureToJson(MV::ETextureChannel channel, const Texture& texture, c
 
 QJsonObject MaterialToJson(const Material& material, LocalIds& ids, StateWriter& states)
 {
-    return {{QStringLiteral("id"), ids.Of(material.id)},
-            {QStringLiteral("name"), material.name},
-            {QStringLiteral("diffuse"), ColorToJson(material.diffuse)},
-            {QStringLiteral("textures"),
-             ListOf(material.textures,
-                    [&](const auto& texture) { return TextureToJson(texture.first, texture.second, states.Folder()); })},
-            {QStringLiteral("state"), states.Write(material.state)}};
+    return {
+        {QStringLiteral("id"), ids.Of(material.id)},
+        {QStringLiteral("name"), material.name},
+        {QStringLiteral("diffuse"), ColorToJson(material.diffuse)},
+        {QStringLiteral("textures"),
+         ListOf(material.textures,
+                [&](const auto& texture) { return TextureToJson(texture.first, texture.second, states.Folder()); })},
+        {QStringLiteral("state"), states.Write(material.state)}};
 }
 
 QJsonObject SlotToJson(const MaterialSlot& slot, LocalIds& ids, StateWriter& states)
@@ -86,7 +87,8 @@ QJsonObject ObjectToJson(const Object& object, LocalIds& ids, StateWriter& state
             {QStringLiteral("state"), states.Write(object.state)},
             {QStringLiteral("materials"),
              ListOf(object.materials, [&](const Material& material) { return MaterialToJson(material, ids, states); })},
-            {QStringLiteral("meshes"), ListOf(object.meshes, [&](const Mesh& mesh) { return MeshToJson(mesh, ids, states); })}};
+            {QStringLiteral("meshes"),
+             ListOf(object.meshes, [&](const Mesh& mesh) { return MeshToJson(mesh, ids, states); })}};
 }
 
 /// What all kinds of changes have in common.
@@ -122,12 +124,13 @@ QJsonObject ObjectChangeToJson(const SceneEdit::ObjectChange& change, LocalIds& 
 
 QJsonObject EditToJson(const SceneEdit& edit, LocalIds& ids, StateWriter& states)
 {
-    return {
-        {QStringLiteral("text"), edit.text},
-        {QStringLiteral("cloths"), ListOf(edit.cloths, [&](const auto& c) { return ClothChangeToJson(c, ids, states); })},
-        {QStringLiteral("materials"),
-         ListOf(edit.materials, [&](const auto& c) { return MaterialChangeToJson(c, ids, states); })},
-        {QStringLiteral("objects"), ListOf(edit.objects, [&](const auto& c) { return ObjectChangeToJson(c, ids, states); })}};
+    return {{QStringLiteral("text"), edit.text},
+            {QStringLiteral("cloths"),
+             ListOf(edit.cloths, [&](const auto& c) { return ClothChangeToJson(c, ids, states); })},
+            {QStringLiteral("materials"),
+             ListOf(edit.materials, [&](const auto& c) { return MaterialChangeToJson(c, ids, states); })},
+            {QStringLiteral("objects"),
+             ListOf(edit.objects, [&](const auto& c) { return ObjectChangeToJson(c, ids, states); })}};
 }
 
 } // namespace
@@ -139,8 +142,9 @@ QJsonObject SceneToJson(const Scene& scene, const QDir& folder)
     const QJsonArray objects =
         ListOf(scene.AllObjects(), [&](const auto& object) { return ObjectToJson(*object, ids, states); });
     const QJsonObject undo{{QStringLiteral("applied"), scene.UndoStack().index()},
-                           {QStringLiteral("steps"),
-                            ListOf(scene.UndoSteps(), [&](const SceneEdit& edit) { return EditToJson(edit, ids, states); })}};
+                           {QStringLiteral("steps"), ListOf(scene.UndoSteps(), [&](const SceneEdit& edit) {
+                                return EditToJson(edit, ids, states);
+                            })}};
     return {{QStringLiteral("format"), QLatin1String(SceneFormat::name)},
             {QStringLiteral("version"), SceneFormat::version},
             {QStringLiteral("objects"), objects},

@@ -99,9 +99,8 @@ BF::Result EditService::ConvertToRigidBody(BF::CHandle* object)
 
 BF::Result EditService::CancelMultiMaterialSoftCloth(BF::CHandle* object)
 {
-    return Record("CancelMultiMaterialSoftCloth", {In(object)}, [&] {
-        return App().CancelSoftCloth(object) ? BF::Results::Success : BF::Results::InvalidArgument;
-    });
+    return Record("CancelMultiMaterialSoftCloth", {In(object)},
+                  [&] { return App().CancelSoftCloth(object) ? BF::Results::Success : BF::Results::InvalidArgument; });
 }
 
 BF::Result EditService::SetPhysicsActive(BF::CHandle* object, int kind, bool active, bool flag1, bool flag2)
@@ -129,14 +128,16 @@ BF::Result EditService::SetUseGlobalGravity(BF::CHandle* object, Id mesh, Id mat
 
 BF::Result EditService::DeleteWeightImage(BF::CHandle* object, Id mesh, Id material)
 {
-    return Record("DeleteWeightImage", {In(object), InId(mesh), InId(material)},
-                  [&] { return App().Weights().Delete({object, mesh, material}); });
+    return Record("DeleteWeightImage", {In(object), InId(mesh), InId(material)}, [&] {
+        return App().Weights().Delete({object, mesh, material});
+    });
 }
 
 BF::Result EditService::EmbedWeightImage(BF::CHandle* object, Id mesh, Id material)
 {
-    return Record("EmbedWeightImage", {In(object), InId(mesh), InId(material)},
-                  [&] { return App().Weights().Embed({object, mesh, material}); });
+    return Record("EmbedWeightImage", {In(object), InId(mesh), InId(material)}, [&] {
+        return App().Weights().Embed({object, mesh, material});
+    });
 }
 
 BF::Result EditService::SetWeightImageAdjust(BF::CHandle* object, Id mesh, Id material,

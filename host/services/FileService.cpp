@@ -56,8 +56,9 @@ BF::Result FileService::ChangeCloths(const Object& object, const std::function<v
 
 BF::Result FileService::SaveWeightImage(BF::CHandle* object, Id mesh, Id material, const std::wstring& path)
 {
-    return Record("SaveWeightImage", {In(object), InId(mesh), InId(material), In(path)},
-                  [&] { return App().Weights().Save({object, mesh, material}, QString::fromStdWString(path)); });
+    return Record("SaveWeightImage", {In(object), InId(mesh), InId(material), In(path)}, [&] {
+        return App().Weights().Save({object, mesh, material}, QString::fromStdWString(path));
+    });
 }
 
 } // namespace Host

@@ -367,9 +367,8 @@ void HostApplication::PushObjectEdit(BF::CHandle* object, SceneEdit edit, MV::EO
 int HostApplication::ActiveSlotCount(const Object& object) const
 {
     const std::vector<ClothAddress> all = Scene::SlotsOf(object);
-    return int(std::count_if(all.begin(), all.end(), [this](const ClothAddress& address) {
-        return m_scene->FindSlot(address)->cloth.active;
-    }));
+    return int(std::count_if(all.begin(), all.end(),
+                             [this](const ClothAddress& address) { return m_scene->FindSlot(address)->cloth.active; }));
 }
 
 } // namespace Host

@@ -40,9 +40,8 @@ QByteArray Content(const QString& file)
 bool Open(const QString& program, const QStringList& files)
 {
     if (program.isEmpty()) {
-        return std::all_of(files.begin(), files.end(), [](const QString& file) {
-            return QDesktopServices::openUrl(QUrl::fromLocalFile(file));
-        });
+        return std::all_of(files.begin(), files.end(),
+                           [](const QString& file) { return QDesktopServices::openUrl(QUrl::fromLocalFile(file)); });
     }
     QStringList command = QFileInfo(program).isFile() ? QStringList{program} : QProcess::splitCommand(program);
     if (command.isEmpty()) {
@@ -60,9 +59,8 @@ bool Shows(const Object& object, const QString& file)
                            [&file](const auto& texture) { return texture.second.filePath == file; });
     };
     const auto hasWeight = [&file](const Mesh& mesh) {
-        return std::any_of(mesh.materialSlots.begin(), mesh.materialSlots.end(), [&file](const MaterialSlot& slot) {
-            return slot.cloth.weight.image.filePath == file;
-        });
+        return std::any_of(mesh.materialSlots.begin(), mesh.materialSlots.end(),
+                           [&file](const MaterialSlot& slot) { return slot.cloth.weight.image.filePath == file; });
     };
     return std::any_of(object.materials.begin(), object.materials.end(), hasTexture) ||
            std::any_of(object.meshes.begin(), object.meshes.end(), hasWeight);
@@ -85,9 +83,8 @@ ImageEditor::~ImageEditor() = default;
 
 BF::Result ImageEditor::Launch(const QStringList& files)
 {
-    const bool areThere = std::all_of(files.begin(), files.end(), [](const QString& file) {
-        return QFileInfo(file).isFile();
-    });
+    const bool areThere =
+        std::all_of(files.begin(), files.end(), [](const QString& file) { return QFileInfo(file).isFile(); });
     if (files.isEmpty() || !areThere) {
         return BF::Results::Refused;
     }

@@ -207,8 +207,7 @@ BF::Result SceneService::WriteUvTexture(const BF::CHandle* objectOrMesh, const M
             stored->error));
         return BF::Results::ResourceFailure;
     }
-    const QImage layout =
-        DrawUvLayout(stored->image, SlotsWith(material.id, *FindOwner(objectOrMesh), objectOrMesh));
+    const QImage layout = DrawUvLayout(stored->image, SlotsWith(material.id, *FindOwner(objectOrMesh), objectOrMesh));
     file = App().Editor().NewFilePath(material.name + QLatin1String("-uv"), QStringLiteral("png"));
     return layout.save(file, "PNG") ? BF::Results::Success : BF::Results::ResourceFailure;
 }
@@ -226,9 +225,8 @@ BF::Result SceneService::GetEmbeddedTexture(Id material, MV::ETextureChannel cha
 
 bool SceneService::LoadTextureSource(Id material, MV::ETextureChannel channel)
 {
-    return RecordValue("LoadTextureSource", {InId(material), In(channel)}, [&] {
-        return App().Images().IsReadable(App().Images().TextureOf(material, channel));
-    });
+    return RecordValue("LoadTextureSource", {InId(material), In(channel)},
+                       [&] { return App().Images().IsReadable(App().Images().TextureOf(material, channel)); });
 }
 
 bool SceneService::IsTextureEmbedded(Id material)

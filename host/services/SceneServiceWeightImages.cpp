@@ -24,9 +24,8 @@ BF::Result SceneService::GetWeightImageAdjust(BF::CHandle* object, Id mesh, Id m
 
 BF::Result SceneService::GetWeightImagePath(BF::CHandle* object, Id mesh, Id material, std::wstring& path)
 {
-    return ReadSlot("GetWeightImagePath", object, mesh, material, {Out(path)}, [&](const MaterialSlot& slot) {
-        path = slot.cloth.weight.image.filePath.toStdWString();
-    });
+    return ReadSlot("GetWeightImagePath", object, mesh, material, {Out(path)},
+                    [&](const MaterialSlot& slot) { path = slot.cloth.weight.image.filePath.toStdWString(); });
 }
 
 BF::Result SceneService::GetWeightImageEditFile(BF::CHandle* object, Id mesh, Id material, std::wstring& path)

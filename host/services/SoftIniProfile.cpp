@@ -78,8 +78,7 @@ std::optional<ClothChange> ReadSoftIni(const QString& path)
     std::vector<ClothChange> changes;
     const QString gravity = QStringLiteral("useGlobalGravity");
     if (file.contains(gravity)) {
-        changes.push_back(
-            [use = file.value(gravity).toBool()](ClothState& cloth) { cloth.useGlobalGravity = use; });
+        changes.push_back([use = file.value(gravity).toBool()](ClothState& cloth) { cloth.useGlobalGravity = use; });
     }
     CollectGroup(file, "property", &ClothState::property, changes);
     CollectGroup(file, "collision", &ClothState::collision, changes);

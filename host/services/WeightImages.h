@@ -28,7 +28,8 @@ public:
 
     /// Links the image file \p path without brightness or contrast, and makes the material soft cloth and the object
     /// one with soft cloth physics.
-    /// \return 0; 1 when more than mostMovingVertices move, which is for the user to decide; 0x80000006 when none moves;
+    /// \return 0; 1 when more than mostMovingVertices move, which is for the user to decide; 0x80000006 when none
+    /// moves;
     ///         another failure when the file cannot be read. After all but 0 there is one step to take back.
     BF::Result Load(const ClothAddress& address, const QString& path);
     BF::Result Delete(const ClothAddress& address);

@@ -41,6 +41,8 @@ public:
     /// With nobody to click, messages go to the standard error output instead of a box, and nothing is remembered
     /// from one run to the next.
     void SetUnattended();
+    /// Sets the program that the user chose for images in an earlier run.
+    void RestoreImageEditor();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -53,6 +55,7 @@ private:
     void RestartPlugin(int application);
 
     void ChooseModel();
+    void ChooseImageEditor();
     void ChooseScene();
     bool SaveOrChoose();
     bool ChooseAndSave();

@@ -120,8 +120,7 @@ QByteArray Tga(const QImage& image, const TgaKind& kind)
     for (int line = 0; line < image.height(); ++line) {
         const int y = (kind.descriptor & 0x20) != 0 ? line : image.height() - 1 - line;
         for (int column = 0; column < image.width(); ++column) {
-            const QRgb color =
-                image.pixel((kind.descriptor & 0x10) != 0 ? image.width() - 1 - column : column, y);
+            const QRgb color = image.pixel((kind.descriptor & 0x10) != 0 ? image.width() - 1 - column : column, y);
             pixels.append(isIndexed || isGray ? QByteArray(1, char(qGray(color))) : TgaColor(color, kind.depth));
         }
     }
@@ -152,6 +151,9 @@ QByteArray HeaderOnly(const QString& suffix, const QSize& size)
     } else if (suffix == QLatin1String("gif")) {
         PutLittle<quint16>(bytes, 6, quint16(size.width()));
         PutLittle<quint16>(bytes, 8, quint16(size.height()));
+        const int picture = bytes.indexOf('\x2c', 13 + 3 * 128); // behind the screen and its colours
+        PutLittle<quint16>(bytes, picture + 5, quint16(size.width()));
+        PutLittle<quint16>(bytes, picture + 7, quint16(size.height()));
     } else if (suffix == QLatin1String("tga")) {
         PutLittle<quint16>(bytes, 12, quint16(size.width()));
         PutLittle<quint16>(bytes, 14, quint16(size.height()));

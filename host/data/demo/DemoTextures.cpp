@@ -94,6 +94,19 @@ double StreakAt(double u, int width)
     return Noise(below % around, width) * (1.0 - t) + Noise((below + 1) % around, width) * t;
 }
 
+/// \p weightAt from 0 to 1; a rim of the first twentieth is black.
+template <class WeightAt>
+QImage PaintWeights(WeightAt weightAt)
+{
+    constexpr double rim = 0.05;
+    return PaintImage(textureSize,
+                      [weightAt](double u, double v) {
+                          const double weight = std::max(0.0, weightAt(u, v) - rim) / (1.0 - rim);
+                          return Paint{weight, weight, weight};
+                      })
+        .convertToFormat(QImage::Format_Grayscale8);
+}
+
 double HairShade(double u)
 {
     return 0.5 * StreakAt(u, 16) + 0.3 * StreakAt(u, 4) + 0.2 * StreakAt(u, 2);
@@ -165,6 +178,32 @@ QImage PaintCape()
         const double thread = 0.96 + 0.08 * Noise(static_cast<int>(u * textureSize), static_cast<int>(v * textureSize));
         return cloth * thread;
     });
+}
+
+QImage PaintFlag()
+{
+    return PaintImage(textureSize, [](double u, double v) {
+        const Paint upper = FromColor(qRgb(206, 214, 222));
+        const Paint lower = FromColor(qRgb(34, 74, 122));
+        const Paint ground = Mix(lower, upper, Step(v, 0.5, 0.004));
+        const double thread = 0.96 + 0.08 * Noise(static_cast<int>(u * textureSize), static_cast<int>(v * textureSize));
+        return Disc(ground, FromColor(qRgb(196, 64, 52)), {u, v}, {0.5, 0.5}, {0.18, 0.27}) * thread;
+    });
+}
+
+QImage PaintHangingWeights()
+{
+    return PaintWeights([](double, double v) { return 1.0 - v; });
+}
+
+QImage PaintFlagWeights()
+{
+    return PaintWeights([](double u, double) { return u; });
+}
+
+QImage PaintNoWeights()
+{
+    return PaintWeights([](double, double) { return 0.0; });
 }
 
 } // namespace Demo

@@ -129,9 +129,15 @@ void TestImageDecode::tgaIsDecoded_data()
         int depth;
         int tolerance;
     } kinds[] = {
-        {"indexed", 1, 24, 0},           {"true colour", 2, 24, 0},       {"gray", 3, 8, 0},
-        {"packed indexed", 9, 32, 0},    {"packed true colour", 10, 24, 0}, {"packed gray", 11, 8, 0},
-        {"32 bits", 2, 32, 0},           {"16 bits", 2, 16, 8},           {"15 bits", 10, 15, 8},
+        {"indexed", 1, 24, 0},
+        {"true colour", 2, 24, 0},
+        {"gray", 3, 8, 0},
+        {"packed indexed", 9, 32, 0},
+        {"packed true colour", 10, 24, 0},
+        {"packed gray", 11, 8, 0},
+        {"32 bits", 2, 32, 0},
+        {"16 bits", 2, 16, 8},
+        {"15 bits", 10, 15, 8},
         {"indexed of 16 bits", 1, 16, 8},
     };
     for (const auto& kind : kinds) {

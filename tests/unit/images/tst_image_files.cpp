@@ -72,8 +72,7 @@ void TestImageFiles::badFileIsRefusedWithTheReason_data()
     QTest::newRow("device") << QStringLiteral("/dev/zero") << QStringLiteral("it is not a file");
     QTest::newRow("empty") << QStringLiteral("empty.png") << QStringLiteral("it is empty");
     QTest::newRow("truncated") << QStringLiteral("half.png") << QStringLiteral("it is truncated");
-    QTest::newRow("text") << QStringLiteral("text.png")
-                          << QStringLiteral("it is no JPEG, BMP, GIF, PNG or TGA image");
+    QTest::newRow("text") << QStringLiteral("text.png") << QStringLiteral("it is no JPEG, BMP, GIF, PNG or TGA image");
     QTest::newRow("too many pixels") << QStringLiteral("huge.png")
                                      << QStringLiteral("it has 60000 x 60000 pixels, and more than 16384 on a side "
                                                        "are too many");
@@ -104,7 +103,8 @@ void TestImageFiles::badFileIsRefusedWithTheReason()
 void TestImageFiles::fileWithoutPermissionIsRefused()
 {
 #ifdef Q_OS_UNIX
-    const QString path = SampleImages::WriteImage(PathOf(QStringLiteral("locked.png")), SampleImages::HalfBlack({4, 4}));
+    const QString path =
+        SampleImages::WriteImage(PathOf(QStringLiteral("locked.png")), SampleImages::HalfBlack({4, 4}));
     QVERIFY(QFile::setPermissions(path, {}));
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x5555)));
     const uid_t user = geteuid();
@@ -133,7 +133,8 @@ void TestImageFiles::anyPathWorks_data()
 void TestImageFiles::anyPathWorks()
 {
     QFETCH(QString, name);
-    SampleImages::WriteFile(PathOf(name), SampleImages::Encoded(QStringLiteral("png"), SampleImages::HalfBlack({4, 4})));
+    SampleImages::WriteFile(PathOf(name),
+                            SampleImages::Encoded(QStringLiteral("png"), SampleImages::HalfBlack({4, 4})));
     QCOMPARE(Host::DecodeImageFile(PathOf(name)).error, QString());
 }
 

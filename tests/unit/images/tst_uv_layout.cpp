@@ -97,8 +97,8 @@ void TestUvLayout::repeatedTrianglesAreDrawnInTheUnitSquare()
     QVERIFY(!HasLine(layout, 0.3, 0.3));
     QVERIFY(!HasLine(layout, 0.7, 0.7));
 
-    const QImage across = Layout(Triangle(QVector2D(0.75F, 0.25F) + shift, QVector2D(1.25F, 0.25F) + shift,
-                                          QVector2D(1.0F, 0.75F) + shift));
+    const QImage across = Layout(
+        Triangle(QVector2D(0.75F, 0.25F) + shift, QVector2D(1.25F, 0.25F) + shift, QVector2D(1.0F, 0.75F) + shift));
     QVERIFY(HasLine(across, 0.9, 0.25));
     QVERIFY(HasLine(across, 0.1, 0.25));
     QVERIFY(!HasLine(across, 0.5, 0.25));

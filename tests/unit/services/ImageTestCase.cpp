@@ -38,8 +38,8 @@ BF::Result ImageTestCase::Load(const Host::ClothAddress& address, const QString&
 
 BF::Result ImageTestCase::Adjust(int brightness, int contrast, bool isFinal) const
 {
-    return Edits().SetWeightImageAdjust(m_address.object, m_address.mesh, m_address.material,
-                                        {0, brightness, contrast}, isFinal, isFinal);
+    return Edits().SetWeightImageAdjust(m_address.object, m_address.mesh, m_address.material, {0, brightness, contrast},
+                                        isFinal, isFinal);
 }
 
 BF::Result ImageTestCase::Delete() const
@@ -55,8 +55,7 @@ BF::Result ImageTestCase::Embed() const
 MV::WeightImageState ImageTestCase::State() const
 {
     MV::WeightImageState state;
-    const BF::Result known =
-        Queries().GetWeightImageState(m_address.object, m_address.mesh, m_address.material, state);
+    const BF::Result known = Queries().GetWeightImageState(m_address.object, m_address.mesh, m_address.material, state);
     return known.IsSuccess() ? state : MV::WeightImageState();
 }
 

@@ -79,7 +79,8 @@ void TestBackgroundLoading::texturesAreNotReadyWhileLoading()
     const auto hasSource = [this] {
         BF::CHandle* thumbnail = nullptr;
         bool has = false;
-        const BF::Result found = Queries().GetTextureThumbnail(m_address.material, ETextureChannel::Diffuse, thumbnail, has);
+        const BF::Result found =
+            Queries().GetTextureThumbnail(m_address.material, ETextureChannel::Diffuse, thumbnail, has);
         return found.IsSuccess() && thumbnail && has;
     };
     QCOMPARE(Queries().OpenTexture(m_address.material, ETextureChannel::Diffuse, true), BF::Results::NothingDone);

@@ -71,10 +71,7 @@ private:
     void WaitInVain() { QTest::qWait(600); }
 
     /// The colour that the diffuse texture has now.
-    QColor TextureColor() const
-    {
-        return m_host->Images().Store().Get(Diffuse(*m_hero))->image.pixelColor(0, 0);
-    }
+    QColor TextureColor() const { return m_host->Images().Store().Get(Diffuse(*m_hero))->image.pixelColor(0, 0); }
 
     QList<QUrl> m_opened;
     QVector<QVector<BF::CHandle*>> m_changes;

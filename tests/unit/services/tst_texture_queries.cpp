@@ -72,8 +72,8 @@ TestTextureQueries::Answers TestTextureQueries::Ask(Host::Id material, ETextureC
     MV::CSceneService& queries = Queries();
     bool unused1 = false;
     bool unused2 = false;
-    answers.state = queries.GetMaterialTextureState(material, channel, answers.hasTexture, answers.hasFile, unused1,
-                                                    unused2);
+    answers.state =
+        queries.GetMaterialTextureState(material, channel, answers.hasTexture, answers.hasFile, unused1, unused2);
     answers.open = queries.OpenTexture(material, channel, true);
     answers.loads = queries.LoadTextureSource(material, channel);
     answers.embedded = queries.GetEmbeddedTexture(material, channel);
@@ -216,7 +216,8 @@ void TestTextureQueries::handleFollowsItsTexture()
     SetTexture(QStringLiteral("linked"));
     BF::CHandle* const thumbnail = Thumbnail();
     QCOMPARE(qGray(Render(thumbnail, {40, 20}).pixel(5, 10)), 0);
-    ImageFile(QStringLiteral("skin.png"), SampleImages::Filled({20, 10}, Qt::red));
+    // A file of another size: the time alone does not tell two writes within one tick of the file system apart.
+    ImageFile(QStringLiteral("skin.png"), SampleImages::Filled({200, 100}, Qt::red));
     QCOMPARE(Render(thumbnail, {40, 20}).pixelColor(5, 10), QColor(Qt::red));
 }
 
@@ -365,8 +366,7 @@ void TestTextureQueries::pathOfATexture()
     QCOMPARE(Queries().GetTexturePath(m_hero->handle, 0, ETextureChannel::Diffuse, path), BF::Results::Refused);
     SetTexture(QStringLiteral("embedded"));
     QCOMPARE(Queries().GetTexturePath(m_hero->handle, 0, ETextureChannel::Diffuse, path), BF::Results::Refused);
-    QCOMPARE(Queries().GetTexturePath(m_hero->handle, 3, ETextureChannel::Diffuse, path),
-             BF::Results::IndexOutOfRange);
+    QCOMPARE(Queries().GetTexturePath(m_hero->handle, 3, ETextureChannel::Diffuse, path), BF::Results::IndexOutOfRange);
     QCOMPARE(Queries().GetTexturePath(nullptr, 0, ETextureChannel::Diffuse, path), BF::Results::InvalidArgument);
     QVERIFY(path == L"unchanged");
     SetTexture(QStringLiteral("linked"));
@@ -414,7 +414,7 @@ void TestTextureQueries::uvLayoutIsDrawnOverTheTexture()
     const QString file = QString::fromStdWString(files[0]);
     const QImage layout(file);
     QCOMPARE(layout.size(), QSize(1024, 1024));
-    QCOMPARE(layout.pixelColor(300, 600), QColor(Qt::red)); // in a triangle
+    QCOMPARE(layout.pixelColor(300, 600), QColor(Qt::red));  // in a triangle
     QVERIFY(layout.pixelColor(512, 512) != QColor(Qt::red)); // on the diagonal
     // Another export does not overwrite a file that may be open in an editor.
     Queries().ExportUvTexture(Host::ToHandle(m_address.mesh), 0, ETextureChannel::Diffuse, files);
@@ -448,7 +448,8 @@ void TestTextureQueries::uvLayoutOfAMeshLeavesTheOthersOut()
         return files.IsEmpty() ? QImage() : QImage(QString::fromStdWString(files[0]));
     };
     const auto hasLine = [](const QImage& image, const QPoint& at) {
-        return image.copy(QRect(at, QSize(5, 5))) != SampleImages::Filled({5, 5}, Qt::red).convertToFormat(image.format());
+        return image.copy(QRect(at, QSize(5, 5))) !=
+               SampleImages::Filled({5, 5}, Qt::red).convertToFormat(image.format());
     };
     const QPoint firstLine(254, 1024 - 105);
     const QPoint secondLine(768, 1024 - 924);

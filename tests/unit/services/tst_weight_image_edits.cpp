@@ -156,8 +156,7 @@ void TestWeightImageEdits::undoTakesBackExactly_data()
     QTest::newRow("edit outside") << Edit([](Test& test) {
         test.Embed();
         return test.m_host->Weights().ReplaceEmbedded(
-            test.m_address,
-            SampleImages::Encoded(QStringLiteral("png"), SampleImages::Filled({9, 9}, Qt::white)));
+            test.m_address, SampleImages::Encoded(QStringLiteral("png"), SampleImages::Filled({9, 9}, Qt::white)));
     });
 }
 

@@ -222,8 +222,8 @@ void TestWeightImageLoading::badFileIsRefusedWithAMessage_data()
         QTest::addRow("truncated %s", suffix)
             << QStringLiteral("half.") + QString::fromLatin1(suffix)
             << (qstrcmp(suffix, "tga") == 0 ? QStringLiteral("it is damaged") : QStringLiteral("it is truncated"));
-        QTest::addRow("oversized %s", suffix) << QStringLiteral("huge.") + QString::fromLatin1(suffix)
-                                              << QStringLiteral("it has 60000 x 60000 pixels");
+        QTest::addRow("oversized %s", suffix)
+            << QStringLiteral("huge.") + QString::fromLatin1(suffix) << QStringLiteral("it has 60000 x 60000 pixels");
     }
 }
 
@@ -319,8 +319,7 @@ void TestWeightImageLoading::tooManyMovingVerticesAreForTheUserToDecide()
     QFETCH(int, result);
     const Host::Object& sheet = CurrentScene().AddObject(Sheet(columns, rows));
     const Host::ClothAddress address = Host::Scene::SlotsOf(sheet).front();
-    const QString path =
-        ImageFile(QStringLiteral("map.png"), isHalfBlack ? SampleImages::HalfBlack({64, 64}) : white);
+    const QString path = ImageFile(QStringLiteral("map.png"), isHalfBlack ? SampleImages::HalfBlack({64, 64}) : white);
     QCOMPARE(Load(address, path).Code(), result);
     // Kept, until the user decides otherwise.
     QCOMPARE(CurrentScene().FindSlot(address)->cloth.weight.image.filePath, path);
