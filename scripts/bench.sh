@@ -2,7 +2,7 @@
 # Builds the benchmarks optimised and runs them one after the other; each prints a table of ratios. Fails when one of
 # them misses a bound.
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
-scripts/setup.sh --tools
+scripts/setup.sh
 
 build release softcloth_benchmarks
 say "Measuring"
