@@ -70,6 +70,7 @@ void Report::Compare(const QString& name, const Work& product, const Work& bare,
 void Report::Measure(const QString& name, const Work& work, int units, int repetitions)
 {
     std::vector<double> times;
+    times.reserve(std::size_t(repetitions));
     for (int i = 0; i < repetitions; ++i) {
         times.push_back(Time(work));
     }

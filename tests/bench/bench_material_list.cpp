@@ -1,5 +1,6 @@
 // Listing the materials of an object in the material dialog.
 #include "material/SoftClothMaterialDlg.h"
+#include "plugin/HostIds.h"
 #include "plugin/services/SceneService.h"
 #include "tests/bench/BenchPanel.h"
 #include "tests/bench/QuickHost.h"
@@ -13,9 +14,9 @@ namespace {
 constexpr std::size_t materialsPerMesh = 100;
 constexpr int compared = 10000;
 
-BF::CHandle* AsHandle(std::size_t id)
+QString RowText(const std::wstring& material, const std::wstring& mesh)
 {
-    return reinterpret_cast<BF::CHandle*>(id);
+    return QString::fromStdWString(material + L"( " + mesh + L" )");
 }
 
 /// What the dialog asks the host, and the rows that it shows.
@@ -34,10 +35,10 @@ void FillBareList(QListWidget& list, MV::CSceneService& scene, BF::CHandle* obje
             if (!scene.IsMaterialSoftClothEnabled(material)) {
                 continue;
             }
-            scene.GetObjectName(materialName, AsHandle(material));
-            scene.GetObjectName(meshName, AsHandle(mesh));
+            scene.GetObjectName(materialName, MV::IdAsHandle(material));
+            scene.GetObjectName(meshName, MV::IdAsHandle(mesh));
             scene.IsSoftClothActive(object, mesh, material, active);
-            auto* item = new QListWidgetItem(QString::fromStdWString(materialName + L"( " + meshName + L" )"));
+            auto* item = new QListWidgetItem(RowText(materialName, meshName));
             item->setData(Qt::UserRole, QVariant::fromValue<quint64>(material));
             item->setData(Qt::UserRole + 1, QVariant::fromValue<quint64>(mesh));
             list.addItem(item);
@@ -55,7 +56,7 @@ int main(int argc, char** argv)
     MV::CSoftClothMaterialDlg& dialog = *panel.plugin.MaterialDlg();
     // The table that the dialog fills along with its list is a subject of its own.
     dialog.SetMaterialTable({});
-    BF::CHandle* object = AsHandle(1);
+    BF::CHandle* object = MV::IdAsHandle(1);
     QListWidget bare;
     const Bench::Work product{[&] { dialog.ReloadMaterials(object, true); }};
     const Bench::Work bareWork{[&] { FillBareList(bare, *panel.host.GetSceneService(), object); }};

@@ -1,4 +1,5 @@
 // Filling the material table.
+#include "plugin/HostIds.h"
 #include "preset/SoftClothMaterialTable.h"
 #include "tests/bench/BenchPanel.h"
 #include "tests/bench/QuickHost.h"
@@ -41,7 +42,7 @@ BF::CArrayList<BF::CHandle*> Handles(int count, std::size_t first)
 {
     BF::CArrayList<BF::CHandle*> handles;
     for (int i = 0; i < count; ++i) {
-        handles.Add(reinterpret_cast<BF::CHandle*>(first + std::size_t(i)));
+        handles.Add(MV::IdAsHandle(first + std::size_t(i)));
     }
     return handles;
 }
