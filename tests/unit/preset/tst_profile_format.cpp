@@ -82,8 +82,9 @@ void TestProfileFormat::keyTablesNameEverySavedKey()
 {
     FormatFixture fixture;
     const QByteArray document = Document();
+    const QList<QByteArray> lines = fixture.Save().split('\n');
     int keys = 0;
-    for (const QByteArray& line : fixture.Save().split('\n')) {
+    for (const QByteArray& line : lines) {
         if (line.contains('=')) {
             const QByteArray row = "\n| `" + line.left(line.indexOf('=')) + "` |";
             QVERIFY2(document.contains(row), row.constData());

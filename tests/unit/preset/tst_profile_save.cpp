@@ -263,7 +263,7 @@ void TestProfileSave::largeFileIsSavedOver()
 {
     QByteArray content = "[Property]\n";
     const QByteArray value(1000, 'x');
-    for (int i = 0; content.size() < 10 * 1024 * 1024; ++i) {
+    for (int i = 0; content.size() < 2 * 1024 * 1024; ++i) {
         content += "key" + QByteArray::number(i) + '=' + value + '\n';
     }
     const QString path = Files::Write(Path("large.ini"), content);
