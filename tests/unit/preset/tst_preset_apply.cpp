@@ -111,7 +111,7 @@ void TestPresetApply::slotAppliesTheGivenList()
     own.item(0)->setData(256, fixture.data.filePath(QStringLiteral("PhysicsSoftPreset/2/2_Second.ini")));
     own.setCurrentRow(0);
     QVERIFY(apply(&own));
-    QVERIFY(fixture.Take().first().startsWith(QLatin1String("SetSoftClothWind")));
+    QVERIFY(fixture.Take().constFirst().startsWith(QLatin1String("SetSoftClothWind")));
     QVERIFY(apply(nullptr));
     QCOMPARE(fixture.Take(), QStringList{Journal::Message(invalidPath)});
 }
@@ -128,7 +128,7 @@ void TestPresetApply::presetsAddedLaterDoNotAppear()
                  "[Wind_Setting]\nWind_Frequency=3\n");
     fixture.host.Journal().Clear();
     DoubleClick(fixture.List(0), fixture.List(0).item(0));
-    QVERIFY(fixture.Take().first().startsWith(QLatin1String("SetSoftClothWind")));
+    QVERIFY(fixture.Take().constFirst().startsWith(QLatin1String("SetSoftClothWind")));
 }
 
 QTEST_MAIN(TestPresetApply)
