@@ -11,6 +11,7 @@ class TestPresetApply : public TestCase
 private Q_SLOTS:
     void doubleClickAppliesTheCurrentItem_data();
     void doubleClickAppliesTheCurrentItem();
+    void nothingElseAppliesAnItem();
     void itemUnderTheMouseDoesNotCount();
     void itemWithoutProfileIsAnInvalidPath();
     void missingCurrentItemIsAnInvalidPath();
@@ -66,6 +67,19 @@ void TestPresetApply::doubleClickAppliesTheCurrentItem()
     const QStringList calls = fixture.Take();
     QCOMPARE(calls.size(), 1);
     QVERIFY2(calls.first().startsWith(call), qPrintable(calls.first()));
+}
+
+void TestPresetApply::nothingElseAppliesAnItem()
+{
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    QListWidget& list = fixture.List(0);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, list.visualItemRect(list.item(0)).center());
+    QCOMPARE(list.currentRow(), 0);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Right, Qt::Key_Left}) {
+        QTest::keyClick(&list, key);
+    }
+    QCOMPARE(fixture.Take(), QStringList());
 }
 
 void TestPresetApply::itemUnderTheMouseDoesNotCount()
