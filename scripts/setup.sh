@@ -17,7 +17,13 @@ packages=(
 for option in "$@"; do
     case $option in
     --tools) packages+=(clang-format clang-tidy clazy) ;;
-    --windows) packages+=(g++-mingw-w64-x86-64-posix make dpkg-dev patch perl python3 wine wine64 zip util-linux) ;;
+    --windows) packages+=(
+            # cross compiler and what unpacks and builds Debian's sources
+            g++-mingw-w64-x86-64-posix make dpkg-dev patch perl python3 util-linux
+            # parts of those sources that Debian has apart
+            libz-mingw-w64-dev libutfcpp-dev libstb-dev
+            # the tests' Windows
+            wine wine64 zip) ;;
     *)
         say "Unknown option $option"
         exit 1
