@@ -146,6 +146,7 @@ private:
     BF::Result ShowThumbnail(QItemLabel* label, bool redraw);
     BF::Result DrawThumbnail(QItemLabel* label, const Drawing& drawing);
     void MakeLabelCurrent(QItemLabel* label);
+    const QItemLabel* PreviewedLabel() const;
     void ShowPreview();
 
     // Weight image.

@@ -57,10 +57,16 @@ void CSoftClothMaterialDlg::MakeLabelCurrent(QItemLabel* label)
     ShowPreview();
 }
 
-/// Shows the picture of the current texture, enlarged; of the weight image as long as none is current.
+/// The label whose picture the preview shows: the current one, the weight image's as long as there is none.
+const QItemLabel* CSoftClothMaterialDlg::PreviewedLabel() const
+{
+    return m_currentLabel ? m_currentLabel : m_ui.weightingItemLabel;
+}
+
+/// Shows the picture of the previewed label, enlarged.
 void CSoftClothMaterialDlg::ShowPreview()
 {
-    const QItemLabel* shown = m_currentLabel ? m_currentLabel : m_ui.weightingItemLabel;
+    const QItemLabel* shown = PreviewedLabel();
     if (!m_ui.bitmapLabel || !shown) {
         return;
     }
@@ -69,9 +75,8 @@ void CSoftClothMaterialDlg::ShowPreview()
         m_ui.bitmapLabel->clear();
         return;
     }
-    QPixmap enlarged = picture.scaled(m_ui.bitmapLabel->contentsRect().size() * picture.devicePixelRatioF(),
-                                      Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    m_ui.bitmapLabel->setPixmap(enlarged);
+    const QSize room = m_ui.bitmapLabel->contentsRect().size() * picture.devicePixelRatioF();
+    m_ui.bitmapLabel->setPixmap(picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
 BF::Result CSoftClothMaterialDlg::DrawThumbnail(QItemLabel* label, const Drawing& drawing)
@@ -89,7 +94,9 @@ BF::Result CSoftClothMaterialDlg::DrawThumbnail(QItemLabel* label, const Drawing
     }
     image.setDevicePixelRatio(ratio);
     label->setPixmap(QPixmap::fromImage(image));
-    ShowPreview();
+    if (label == PreviewedLabel()) {
+        ShowPreview();
+    }
     return BF::Results::Success;
 }
 

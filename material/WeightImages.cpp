@@ -89,17 +89,15 @@ BF::Result CSoftClothMaterialDlg::LoadWeightImage(const QString& path)
 bool CSoftClothMaterialDlg::TellLoadProblem(BF::Result loaded)
 {
     if (loaded == BF::Results::NothingDone) {
-        return AskOkOrCancel(*m_host,
-                             tr("The Generated cloth mesh count has exceeded the maximum 20,000 limit. Please try "
-                                "another legal image. "),
-                             QString(), this);
+        const QString question = tr("The Generated cloth mesh count has exceeded the maximum 20,000 limit. "
+                                    "Please try another legal image. ");
+        return AskOkOrCancel(*m_host, question, QString(), this);
     }
-    const QString text =
-        loaded == BF::Results::Refused
-            ? tr("This image would create a soft cloth without any physics effect,\n because all the vertices of cloth "
-                 "mesh "
-                 "were set as zero weighting\n( black color ). Please modify the gray map or load other valid images.")
-            : QString();
+    const QString text = loaded == BF::Results::Refused
+                             ? tr("This image would create a soft cloth without any physics effect,\n "
+                                  "because all the vertices of cloth mesh were set as zero weighting\n"
+                                  "( black color ). Please modify the gray map or load other valid images.")
+                             : QString();
     ShowInformation(*m_host, text, QString(), this);
     return !loaded.IsFailure();
 }

@@ -7,6 +7,7 @@
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
 #include "plugin/services/UiService.h"
+#include "preset/SoftClothPresetSection.h"
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"

@@ -42,6 +42,12 @@ public:
     SoftClothSelection& Selection() { return m_selection; }
     const SoftClothSelection& Selection() const { return m_selection; }
 
+    // Parts that the Preset section works with; null for one that does not exist or was destroyed.
+    CSoftClothMaterialDlg* MaterialDlg() const { return m_materialDlg.data(); }
+    CSoftClothPropertySection* PropertySection() const { return m_propertySection.data(); }
+    CSoftClothCollisionSection* CollisionSection() const { return m_collisionSection.data(); }
+    CSoftClothWindSection* WindSection() const { return m_windSection.data(); }
+
     // The plug-in interface.
 
     /// Registers the resource file, creates and initialises the parts and connects to the host's events.

@@ -5,6 +5,7 @@
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
 #include "preset/SoftClothMaterialTable.h"
+#include "preset/SoftClothPresetSection.h"
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"

@@ -7,7 +7,9 @@
 
 #include <QByteArray>
 #include <QColor>
+#include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVector2D>
 #include <QVector3D>
 
@@ -28,6 +30,17 @@ struct Texture
     QByteArray embedded; ///< The encoded image (PNG, JPEG, …); empty for none.
 };
 
+/// A gray image laid over the UVs of a material on a mesh: where it is black, vertices do not follow the simulation.
+/// Either linked to a file, whose content may change, or embedded.
+struct WeightImage
+{
+    Texture image;      ///< Of the two one at most; neither when there is no weight image.
+    int brightness = 0; ///< -100 to 100.
+    int contrast = 0;   ///< -100 to 100.
+
+    bool IsNone() const { return image.filePath.isEmpty() && image.embedded.isEmpty(); }
+};
+
 /// Soft cloth values of one material on one mesh. Every change is an undoable edit.
 struct ClothState
 {
@@ -36,6 +49,7 @@ struct ClothState
     MV::SoftClothPropertyData property;
     MV::SoftClothCollisionData collision;
     MV::SoftClothWindData wind;
+    WeightImage weight; ///< Copies share the embedded bytes.
 };
 
 /// Undoable state of a material that does not depend on the mesh.
@@ -50,6 +64,8 @@ struct ObjectState
     bool exists = true; ///< False once the object was deleted; it is kept for undo.
     bool softCloth = false;
     bool rigidBody = false;
+    /// Materials that are not offered for the soft cloth: names of materials by the name of the mesh that they are on.
+    QMap<QString, QStringList> ignoredMaterials{};
 };
 
 /// What the host tells of an object besides its values. Set through the host controls, not undoable.

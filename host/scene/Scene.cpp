@@ -5,56 +5,13 @@
 #include <QUndoCommand>
 
 #include <algorithm>
+#include <map>
+#include <tuple>
 #include <utility>
 
 namespace Host {
 
 namespace {
-
-using ObjectList = std::vector<std::unique_ptr<Object>>;
-
-template <class Things, class Match>
-auto Find(Things& things, Match match) -> decltype(&*things.begin())
-{
-    const auto found = std::find_if(things.begin(), things.end(), match);
-    return found == things.end() ? nullptr : &*found;
-}
-
-template <class Thing>
-Thing* FindById(std::vector<Thing>& things, Id id)
-{
-    return Find(things, [id](const Thing& thing) { return thing.id == id; });
-}
-
-/// The first object, deleted ones included, of which \p match holds.
-template <class Match>
-Object* FindAny(const ObjectList& objects, Match match)
-{
-    const auto* found = Find(objects, [&](const std::unique_ptr<Object>& object) { return match(*object); });
-    return found ? found->get() : nullptr;
-}
-
-Object* AnyObject(const ObjectList& objects, const BF::CHandle* handle)
-{
-    return FindAny(objects, [handle](const Object& object) { return object.handle == handle; });
-}
-
-Object* AnyOwnerOfMesh(const ObjectList& objects, Id id)
-{
-    return FindAny(objects, [id](Object& object) { return FindById(object.meshes, id) != nullptr; });
-}
-
-Object* AnyOwnerOfMaterial(const ObjectList& objects, Id id)
-{
-    return FindAny(objects, [id](Object& object) { return FindById(object.materials, id) != nullptr; });
-}
-
-MaterialSlot* SlotOf(Object& object, const ClothAddress& address)
-{
-    Mesh* const mesh = FindById(object.meshes, address.mesh);
-    return mesh ? Find(mesh->materialSlots, [&](const MaterialSlot& slot) { return slot.material == address.material; })
-                : nullptr;
-}
 
 Object* IfExists(Object* object)
 {
@@ -63,60 +20,61 @@ Object* IfExists(Object* object)
 
 // What a change is about: the object that it belongs to, and the state that it changes there.
 
-Object* OwnerOf(const ObjectList& objects, const SceneEdit::ClothChange& change)
+Object* OwnerOf(const SceneIndex& index, const SceneEdit::ClothChange& change)
 {
-    return AnyObject(objects, change.address.object);
+    return index.FindObject(change.address.object);
 }
 
-Object* OwnerOf(const ObjectList& objects, const SceneEdit::MaterialChange& change)
+Object* OwnerOf(const SceneIndex& index, const SceneEdit::MaterialChange& change)
 {
-    return AnyOwnerOfMaterial(objects, change.material);
+    return index.OwnerOfMaterial(change.material);
 }
 
-Object* OwnerOf(const ObjectList& objects, const SceneEdit::ObjectChange& change)
+Object* OwnerOf(const SceneIndex& index, const SceneEdit::ObjectChange& change)
 {
-    return AnyObject(objects, change.object);
+    return index.FindObject(change.object);
 }
 
-ClothState* StateIn(Object& owner, const SceneEdit::ClothChange& change)
+ClothState* StateIn(const SceneIndex& index, const SceneEdit::ClothChange& change)
 {
-    MaterialSlot* const slot = SlotOf(owner, change.address);
+    MaterialSlot* const slot = index.FindSlot(change.address);
     return slot ? &slot->cloth : nullptr;
 }
 
-MaterialState* StateIn(Object& owner, const SceneEdit::MaterialChange& change)
+MaterialState* StateIn(const SceneIndex& index, const SceneEdit::MaterialChange& change)
 {
-    Material* const material = FindById(owner.materials, change.material);
+    Material* const material = index.FindMaterial(change.material);
     return material ? &material->state : nullptr;
 }
 
-ObjectState* StateIn(Object& owner, const SceneEdit::ObjectChange& /*change*/)
+ObjectState* StateIn(const SceneIndex& index, const SceneEdit::ObjectChange& change)
 {
-    return &owner.state;
+    Object* const object = index.FindObject(change.object);
+    return object ? &object->state : nullptr;
 }
 
 /// The owner that \p change can be applied to; null when it is unknown or deleted.
 template <class Change>
-Object* ChangeableOwner(const ObjectList& objects, const Change& change)
+Object* ChangeableOwner(const SceneIndex& index, const Change& change)
 {
-    return IfExists(OwnerOf(objects, change));
+    return IfExists(OwnerOf(index, change));
 }
 
 /// A deleted object can still be brought back.
-Object* ChangeableOwner(const ObjectList& objects, const SceneEdit::ObjectChange& change)
+Object* ChangeableOwner(const SceneIndex& index, const SceneEdit::ObjectChange& change)
 {
-    Object* const owner = OwnerOf(objects, change);
+    Object* const owner = OwnerOf(index, change);
     return change.after.exists ? owner : IfExists(owner);
 }
 
 /// Takes the before-states from the scene and leaves out changes of what does not exist there.
 template <class Change>
-void TakeBefore(std::vector<Change>& changes, const ObjectList& objects)
+void TakeBefore(std::vector<Change>& changes, const SceneIndex& index)
 {
     std::vector<Change> known;
     for (Change& change : changes) {
-        Object* const owner = ChangeableOwner(objects, change);
-        if (const auto* state = owner ? StateIn(*owner, change) : nullptr) {
+        Object* const owner = ChangeableOwner(index, change);
+        if (const auto* state = owner ? StateIn(index, change) : nullptr) {
             change.before = *state;
             known.push_back(std::move(change));
         }
@@ -125,11 +83,10 @@ void TakeBefore(std::vector<Change>& changes, const ObjectList& objects)
 }
 
 template <class Change>
-void ApplyAll(const std::vector<Change>& changes, bool forward, const ObjectList& objects)
+void ApplyAll(const std::vector<Change>& changes, bool forward, const SceneIndex& index)
 {
     for (const Change& change : changes) {
-        Object* const owner = OwnerOf(objects, change);
-        if (auto* state = owner ? StateIn(*owner, change) : nullptr) {
+        if (auto* state = StateIn(index, change)) {
             *state = forward ? change.after : change.before;
         }
     }
@@ -143,13 +100,44 @@ bool ChangesExistence(const SceneEdit& edit)
 }
 
 template <class Change>
-void AppendOwners(QVector<BF::CHandle*>& owners, const std::vector<Change>& changes, const ObjectList& objects)
+void AppendOwners(QVector<BF::CHandle*>& owners, const std::vector<Change>& changes, const SceneIndex& index)
 {
     for (const Change& change : changes) {
-        if (const Object* owner = OwnerOf(objects, change)) {
+        if (const Object* owner = OwnerOf(index, change)) {
             owners.append(owner->handle);
         }
     }
+}
+
+// What tells changes of different things apart.
+
+auto KeyOf(const SceneEdit::ClothChange& change)
+{
+    return std::make_tuple(change.address.object, change.address.mesh, change.address.material);
+}
+
+auto KeyOf(const SceneEdit::MaterialChange& change)
+{
+    return change.material;
+}
+
+auto KeyOf(const SceneEdit::ObjectChange& change)
+{
+    return change.object;
+}
+
+/// Lets \p changes end where \p later ones of the same things do. \return false when they are about other things
+template <class Change>
+bool TakeAfter(std::vector<Change>& changes, const std::vector<Change>& later)
+{
+    const auto sameThing = [](const Change& a, const Change& b) { return KeyOf(a) == KeyOf(b); };
+    if (!std::equal(changes.begin(), changes.end(), later.begin(), later.end(), sameThing)) {
+        return false;
+    }
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        changes[i].after = later[i].after;
+    }
+    return true;
 }
 
 } // namespace
@@ -165,8 +153,27 @@ public:
     {
     }
 
-    void undo() override { m_scene.Apply(m_edit, false); }
+    void undo() override
+    {
+        m_scene.Apply(m_edit, false);
+        setObsolete(m_edit.refused);
+    }
     void redo() override { m_scene.Apply(m_edit, true); }
+
+    int id() const override { return m_edit.run; }
+    bool mergeWith(const QUndoCommand* other) override
+    {
+        const auto* later = dynamic_cast<const EditCommand*>(other);
+        SceneEdit merged = m_edit;
+        if (!later || m_edit.refused || later->m_edit.refused || !TakeAfter(merged.cloths, later->m_edit.cloths) ||
+            !TakeAfter(merged.materials, later->m_edit.materials) ||
+            !TakeAfter(merged.objects, later->m_edit.objects)) {
+            return false;
+        }
+        m_edit = std::move(merged);
+        setObsolete(m_edit.ChangesNothing());
+        return true;
+    }
 
     const SceneEdit& Edit() const { return m_edit; }
 
@@ -207,6 +214,7 @@ Object& Scene::AddObject(Object object)
     }
     m_objects.push_back(std::make_unique<Object>(std::move(object)));
     Object& stored = *m_objects.back();
+    m_index.Add(stored);
     Q_EMIT ObjectsChanged();
     return stored;
 }
@@ -224,35 +232,51 @@ std::vector<Object*> Scene::Objects() const
 
 Object* Scene::FindObject(const BF::CHandle* handle) const
 {
-    return IfExists(AnyObject(m_objects, handle));
+    return IfExists(m_index.FindObject(handle));
 }
 
 Mesh* Scene::FindMesh(Id id) const
 {
-    Object* const owner = OwnerOfMesh(id);
-    return owner ? FindById(owner->meshes, id) : nullptr;
+    return OwnerOfMesh(id) ? m_index.FindMesh(id) : nullptr;
 }
 
 Material* Scene::FindMaterial(Id id) const
 {
-    Object* const owner = OwnerOfMaterial(id);
-    return owner ? FindById(owner->materials, id) : nullptr;
+    return OwnerOfMaterial(id) ? m_index.FindMaterial(id) : nullptr;
 }
 
 Object* Scene::OwnerOfMesh(Id id) const
 {
-    return IfExists(AnyOwnerOfMesh(m_objects, id));
+    return IfExists(m_index.OwnerOfMesh(id));
 }
 
 Object* Scene::OwnerOfMaterial(Id id) const
 {
-    return IfExists(AnyOwnerOfMaterial(m_objects, id));
+    return IfExists(m_index.OwnerOfMaterial(id));
 }
 
 MaterialSlot* Scene::FindSlot(const ClothAddress& address) const
 {
-    Object* const object = FindObject(address.object);
-    return object ? SlotOf(*object, address) : nullptr;
+    return FindObject(address.object) ? m_index.FindSlot(address) : nullptr;
+}
+
+std::optional<std::size_t> Scene::PositionOfMaterial(const Object& object, Id id) const
+{
+    return OwnerOfMaterial(id) == &object ? std::make_optional(m_index.PositionOfMaterial(id)) : std::nullopt;
+}
+
+bool Scene::MayTakePart(Id materialId) const
+{
+    const Material* const material = FindMaterial(materialId);
+    if (!material || !material->state.softClothEnabled) {
+        return false;
+    }
+    const Object& owner = *OwnerOfMaterial(materialId);
+    const auto& ignored = owner.state.ignoredMaterials;
+    return ignored.isEmpty() || std::none_of(owner.meshes.begin(), owner.meshes.end(), [&](const Mesh& mesh) {
+               return m_index.FindSlot({owner.handle, mesh.id, materialId}) &&
+                      ignored.value(mesh.name).contains(material->name);
+           });
 }
 
 std::vector<ClothAddress> Scene::SlotsOf(const Object& object)
@@ -297,10 +321,10 @@ bool Scene::SetSelection(const QVector<BF::CHandle*>& handles)
 
 bool Scene::Push(SceneEdit edit)
 {
-    TakeBefore(edit.cloths, m_objects);
-    TakeBefore(edit.materials, m_objects);
-    TakeBefore(edit.objects, m_objects);
-    if (edit.ChangesNothing()) {
+    TakeBefore(edit.cloths, m_index);
+    TakeBefore(edit.materials, m_index);
+    TakeBefore(edit.objects, m_index);
+    if (edit.ChangesNothing() && !edit.isStepAnyway && !edit.refused) {
         return false;
     }
     m_undoStack.push(std::make_unique<EditCommand>(*this, std::move(edit)).release());
@@ -312,9 +336,9 @@ void Scene::Apply(const SceneEdit& edit, bool forward)
     if (m_restoring) {
         return;
     }
-    ApplyAll(edit.cloths, forward, m_objects);
-    ApplyAll(edit.materials, forward, m_objects);
-    ApplyAll(edit.objects, forward, m_objects);
+    ApplyAll(edit.cloths, forward, m_index);
+    ApplyAll(edit.materials, forward, m_index);
+    ApplyAll(edit.objects, forward, m_index);
     m_applied.objectsChanged |= ChangesExistence(edit);
     const QVector<BF::CHandle*> touched = ObjectsOf(edit);
     for (BF::CHandle* handle : touched) {
@@ -345,9 +369,9 @@ void Scene::AnnounceApplied()
 QVector<BF::CHandle*> Scene::ObjectsOf(const SceneEdit& edit) const
 {
     QVector<BF::CHandle*> touched;
-    AppendOwners(touched, edit.cloths, m_objects);
-    AppendOwners(touched, edit.materials, m_objects);
-    AppendOwners(touched, edit.objects, m_objects);
+    AppendOwners(touched, edit.cloths, m_index);
+    AppendOwners(touched, edit.materials, m_index);
+    AppendOwners(touched, edit.objects, m_index);
     QVector<BF::CHandle*> inOrder;
     for (const auto& object : m_objects) {
         if (touched.contains(object->handle)) {

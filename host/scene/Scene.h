@@ -2,12 +2,14 @@
 
 #include "host/scene/Entities.h"
 #include "host/scene/SceneEdit.h"
+#include "host/scene/SceneIndex.h"
 
 #include <QObject>
 #include <QUndoStack>
 #include <QVector>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Host {
@@ -46,6 +48,11 @@ public:
     /// Null unless the object exists, has the mesh, and the mesh has the material.
     MaterialSlot* FindSlot(const ClothAddress& address) const;
 
+    /// Where a material stands among the materials of \p object; none when it is not one of them.
+    std::optional<std::size_t> PositionOfMaterial(const Object& object, Id id) const;
+    /// Whether a material is offered for the soft cloth: switched on, and ignored on none of its meshes.
+    bool MayTakePart(Id material) const;
+
     /// Every (mesh, material) of \p object, in the order of its meshes and slots.
     static std::vector<ClothAddress> SlotsOf(const Object& object);
 
@@ -66,7 +73,8 @@ public:
     // --- edits ---
 
     /// Applies \p edit as one undo step. Its before-states are taken from the scene, whatever it holds; changes of
-    /// unknown things are left out. \return true when something changed; an edit that changes nothing is no step
+    /// unknown things are left out. \return true when it became a step; an edit that changes nothing does not, unless
+    /// it is to be one anyway
     bool Push(SceneEdit edit);
 
     /// The objects that an edit touches, each once, in scene order; deleted ones included.
@@ -102,6 +110,7 @@ private:
     void AnnounceApplied();
 
     std::vector<std::unique_ptr<Object>> m_objects;
+    SceneIndex m_index; ///< Of all objects, deleted ones included.
     QVector<BF::CHandle*> m_selection;
     QUndoStack m_undoStack;
     Applied m_applied;

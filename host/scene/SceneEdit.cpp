@@ -43,9 +43,16 @@ bool AllSame(const std::vector<Change>& changes)
 
 } // namespace
 
+bool operator==(const WeightImage& a, const WeightImage& b)
+{
+    const QByteArray& bytes = a.image.embedded;
+    return a.image.filePath == b.image.filePath && a.brightness == b.brightness && a.contrast == b.contrast &&
+           (bytes.isSharedWith(b.image.embedded) || bytes == b.image.embedded);
+}
+
 bool operator==(const ClothState& a, const ClothState& b)
 {
-    return Same(a, b);
+    return Same(a, b) && a.weight == b.weight;
 }
 
 bool operator==(const MaterialState& a, const MaterialState& b)
@@ -55,7 +62,7 @@ bool operator==(const MaterialState& a, const MaterialState& b)
 
 bool operator==(const ObjectState& a, const ObjectState& b)
 {
-    return Same(a, b);
+    return Same(a, b) && a.ignoredMaterials == b.ignoredMaterials;
 }
 
 bool SceneEdit::ChangesNothing() const

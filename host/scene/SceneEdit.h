@@ -39,7 +39,17 @@ struct SceneEdit
         ObjectState after;
     };
 
+    static constexpr int noRun = -1;
+
     QString text; ///< What the undo menu shows.
+    /// Edits of the same things that follow each other with the same number become one undo step, as while a slider is
+    /// dragged.
+    int run = noRun;
+    /// It is a step even when it changes nothing: whoever pushes it may want to take it back.
+    bool isStepAnyway = false;
+    /// The user is to be told that this was no good, and then it is taken back. It is a step anyway, and undoing it
+    /// removes it for good, so that nothing is left to redo. Scene files do not tell such steps from others.
+    bool refused = false;
     std::vector<ClothChange> cloths;
     std::vector<MaterialChange> materials;
     std::vector<ObjectChange> objects;
@@ -48,6 +58,7 @@ struct SceneEdit
     bool ChangesNothing() const;
 };
 
+bool operator==(const WeightImage& a, const WeightImage& b);
 bool operator==(const ClothState& a, const ClothState& b);
 bool operator==(const MaterialState& a, const MaterialState& b);
 bool operator==(const ObjectState& a, const ObjectState& b);

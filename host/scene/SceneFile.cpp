@@ -49,7 +49,7 @@ qint64 BytesOf(const Scene& scene)
         for (const Mesh& mesh : object->meshes) {
             size += BytesOf(mesh.positions) + BytesOf(mesh.normals) + BytesOf(mesh.uvs);
             for (const MaterialSlot& slot : mesh.materialSlots) {
-                size += BytesOf(slot.indices);
+                size += BytesOf(slot.indices) + slot.cloth.weight.image.embedded.size();
             }
         }
         for (const Material& material : object->materials) {

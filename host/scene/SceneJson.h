@@ -12,7 +12,8 @@ class Scene;
 /// What a scene file says of itself.
 namespace SceneFormat {
 inline constexpr const char* name = "softcloth-scene";
-inline constexpr int version = 1;
+/// 1: no weight images and no ignored materials.
+inline constexpr int version = 2;
 } // namespace SceneFormat
 
 /// The document of a scene file that lies in \p folder. Ids in it are numbers that mean nothing outside.

@@ -1,11 +1,9 @@
 #include "host/scene/SceneJson.h"
 
+#include "host/scene/FileStates.h"
 #include "host/scene/GeometryJson.h"
 #include "host/scene/Handles.h"
 #include "host/scene/Scene.h"
-#include "host/scene/StateJson.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <set>
@@ -43,27 +41,12 @@ Id DefineId(const JsonNode& node, TakenIds& taken)
     return id;
 }
 
-/// The scene file may have moved together with its textures or without them.
-QString TextureFile(const JsonNode& node, const QDir& folder)
-{
-    const QString absolute = node["file"].ToText();
-    if (node.Has("relative")) {
-        const QString moved = QDir::cleanPath(folder.absoluteFilePath(node["relative"].ToText()));
-        if (QFileInfo(moved).isFile()) {
-            return moved;
-        }
-    }
-    return absolute;
-}
-
 std::pair<MV::ETextureChannel, Texture> TextureFromJson(const JsonNode& node, const QDir& folder)
 {
     constexpr auto first = static_cast<int>(MV::ETextureChannel::Weight);
     constexpr auto last = static_cast<int>(MV::ETextureChannel::DiffuseAndOpacity);
     Texture texture;
-    if (node.Has("file")) {
-        texture.filePath = TextureFile(node, folder);
-    }
+    texture.filePath = LinkedFileFromJson(node, folder);
     if (node.Has("embedded")) {
         texture.embedded = node["embedded"].ToBytes();
     }
@@ -72,18 +55,18 @@ std::pair<MV::ETextureChannel, Texture> TextureFromJson(const JsonNode& node, co
 
 // Objects are read with the ids of the file; the scene replaces them.
 
-Material MaterialFromJson(const JsonNode& node, const QDir& folder, TakenIds& taken)
+Material MaterialFromJson(const JsonNode& node, const StateReader& states, TakenIds& taken)
 {
     Material material;
     material.id = DefineId(node["id"], taken);
     material.name = node["name"].ToText();
     material.diffuse = ColorFromJson(node["diffuse"]);
     for (const JsonNode& texture : node["textures"].Items()) {
-        if (!material.textures.insert(TextureFromJson(texture, folder)).second) {
+        if (!material.textures.insert(TextureFromJson(texture, states.Folder())).second) {
             texture["channel"].Refuse(QStringLiteral("has a texture already"));
         }
     }
-    material.state = StateFromJson<MaterialState>(node["state"]);
+    material.state = states.Read<MaterialState>(node["state"]);
     return material;
 }
 
@@ -100,7 +83,8 @@ std::vector<quint32> IndicesFromJson(const JsonNode& node, std::size_t vertexCou
 }
 
 /// Names its material as Scene::AddObject() wants it: by the position in \p materials plus one.
-MaterialSlot SlotFromJson(const JsonNode& node, std::size_t vertexCount, const std::vector<Material>& materials)
+MaterialSlot SlotFromJson(const JsonNode& node, std::size_t vertexCount, const std::vector<Material>& materials,
+                          const StateReader& states)
 {
     const JsonNode name = node["material"];
     const auto found = std::find_if(materials.begin(), materials.end(),
@@ -109,7 +93,7 @@ MaterialSlot SlotFromJson(const JsonNode& node, std::size_t vertexCount, const s
         name.Refuse(QStringLiteral("names a material that the object does not have"));
     }
     return {static_cast<Id>(found - materials.begin()) + 1, IndicesFromJson(node["indices"], vertexCount),
-            StateFromJson<ClothState>(node["cloth"])};
+            states.Read<ClothState>(node["cloth"])};
 }
 
 template <class Item>
@@ -122,7 +106,8 @@ std::vector<Item> PerVertexFromJson(const JsonNode& node, std::size_t vertexCoun
     return items;
 }
 
-Mesh MeshFromJson(const JsonNode& node, const std::vector<Material>& materials, TakenIds& taken)
+Mesh MeshFromJson(const JsonNode& node, const std::vector<Material>& materials, const StateReader& states,
+                  TakenIds& taken)
 {
     Mesh mesh;
     mesh.id = DefineId(node["id"], taken);
@@ -132,7 +117,7 @@ Mesh MeshFromJson(const JsonNode& node, const std::vector<Material>& materials, 
     mesh.uvs = PerVertexFromJson<QVector2D>(node["uvs"], mesh.positions.size());
     std::set<Id> used;
     for (const JsonNode& slot : node["slots"].Items()) {
-        mesh.materialSlots.push_back(SlotFromJson(slot, mesh.positions.size(), materials));
+        mesh.materialSlots.push_back(SlotFromJson(slot, mesh.positions.size(), materials, states));
         if (!used.insert(mesh.materialSlots.back().material).second) {
             slot["material"].Refuse(QStringLiteral("has a slot on this mesh already"));
         }
@@ -140,18 +125,18 @@ Mesh MeshFromJson(const JsonNode& node, const std::vector<Material>& materials, 
     return mesh;
 }
 
-Object ObjectFromJson(const JsonNode& node, const QDir& folder, TakenIds& taken)
+Object ObjectFromJson(const JsonNode& node, const StateReader& states, TakenIds& taken)
 {
     Object object;
     object.handle = ToHandle(DefineId(node["id"], taken));
     object.name = node["name"].ToText();
-    object.traits = StateFromJson<ObjectTraits>(node["traits"]);
-    object.state = StateFromJson<ObjectState>(node["state"]);
+    object.traits = states.Read<ObjectTraits>(node["traits"]);
+    object.state = states.Read<ObjectState>(node["state"]);
     for (const JsonNode& material : node["materials"].Items()) {
-        object.materials.push_back(MaterialFromJson(material, folder, taken));
+        object.materials.push_back(MaterialFromJson(material, states, taken));
     }
     for (const JsonNode& mesh : node["meshes"].Items()) {
-        object.meshes.push_back(MeshFromJson(mesh, object.materials, taken));
+        object.meshes.push_back(MeshFromJson(mesh, object.materials, states, taken));
     }
     return object;
 }
@@ -173,14 +158,15 @@ std::vector<Id> IdsOf(const Object& object)
 class Reader
 {
 public:
-    explicit Reader(Scene& scene)
+    Reader(Scene& scene, const StateReader& states)
         : m_scene(scene)
+        , m_states(states)
     {
     }
 
-    void AddObject(const JsonNode& node, const QDir& folder)
+    void AddObject(const JsonNode& node)
     {
-        Object object = ObjectFromJson(node, folder, m_taken);
+        Object object = ObjectFromJson(node, m_states, m_taken);
         const std::vector<Id> local = IdsOf(object);
         const Object& added = m_scene.AddObject(std::move(object));
         const std::vector<Id> fresh = IdsOf(added);
@@ -225,15 +211,15 @@ private:
     }
 
     template <class State>
-    static State Before(const JsonNode& change)
+    State Before(const JsonNode& change) const
     {
-        return StateFromJson<State>(change["before"]);
+        return m_states.Read<State>(change["before"]);
     }
 
     template <class State>
-    static State After(const JsonNode& change)
+    State After(const JsonNode& change) const
     {
-        return StateFromJson<State>(change["after"]);
+        return m_states.Read<State>(change["after"]);
     }
 
     /// 0 for an id that the file does not define.
@@ -251,6 +237,7 @@ private:
     }
 
     Scene& m_scene;
+    const StateReader& m_states;
     TakenIds m_taken;
     std::map<Id, Id> m_ids; ///< From those of the file to those of the scene.
     std::set<BF::CHandle*> m_objects;
@@ -258,15 +245,18 @@ private:
     std::set<std::tuple<BF::CHandle*, Id, Id>> m_slots;
 };
 
-void RequireFormat(const JsonNode& root)
+/// The version of the format in which the document was written.
+int RequireFormat(const JsonNode& root)
 {
     if (!root.Has("format") || !root["format"].IsText() ||
         root["format"].ToText() != QLatin1String(SceneFormat::name)) {
         throw SceneFormatError(QStringLiteral("it is no scene of this application"));
     }
-    if (root["version"].ToInteger(1, std::numeric_limits<int>::max()) > SceneFormat::version) {
+    const qint64 version = root["version"].ToInteger(1, std::numeric_limits<int>::max());
+    if (version > SceneFormat::version) {
         throw SceneFormatError(QStringLiteral("it was written by a newer version of this application"));
     }
+    return static_cast<int>(version);
 }
 
 } // namespace
@@ -274,11 +264,11 @@ void RequireFormat(const JsonNode& root)
 std::unique_ptr<Scene> SceneFromJson(const QJsonObject& document, const QDir& folder)
 {
     const JsonNode root(document, {});
-    RequireFormat(root);
+    const StateReader states(root, RequireFormat(root), folder);
     auto scene = std::make_unique<Scene>();
-    Reader reader(*scene);
+    Reader reader(*scene, states);
     for (const JsonNode& object : root["objects"].Items()) {
-        reader.AddObject(object, folder);
+        reader.AddObject(object);
     }
     std::vector<SceneEdit> steps;
     const JsonNode undo = root["undo"];

@@ -1,5 +1,6 @@
 #include "host/scene/SceneJson.h"
 
+#include "host/scene/FileStates.h"
 #include "host/scene/GeometryJson.h"
 #include "host/scene/Handles.h"
 #include "host/scene/Scene.h"
@@ -41,39 +42,33 @@ QJsonArray ColorToJson(const QColor& color)
 QJsonObject TextureToJson(MV::ETextureChannel channel, const Texture& texture, const QDir& folder)
 {
     QJsonObject json{{QStringLiteral("channel"), static_cast<int>(channel)}};
-    if (!texture.filePath.isEmpty()) {
-        json.insert(QStringLiteral("file"), texture.filePath);
-        // From another drive there is no relative path.
-        const QString relative = folder.relativeFilePath(texture.filePath);
-        if (QDir::isAbsolutePath(texture.filePath) && QDir::isRelativePath(relative)) {
-            json.insert(QStringLiteral("relative"), relative);
-        }
-    }
+    InsertLinkedFile(json, texture.filePath, folder);
     if (!texture.embedded.isEmpty()) {
         json.insert(QStringLiteral("embedded"), QString::fromLatin1(texture.embedded.toBase64()));
     }
     return json;
 }
 
-QJsonObject MaterialToJson(const Material& material, LocalIds& ids, const QDir& folder)
+QJsonObject MaterialToJson(const Material& material, LocalIds& ids, StateWriter& states)
 {
-    return {{QStringLiteral("id"), ids.Of(material.id)},
-            {QStringLiteral("name"), material.name},
-            {QStringLiteral("diffuse"), ColorToJson(material.diffuse)},
-            {QStringLiteral("textures"),
-             ListOf(material.textures,
-                    [&](const auto& texture) { return TextureToJson(texture.first, texture.second, folder); })},
-            {QStringLiteral("state"), StateToJson(material.state)}};
+    return {
+        {QStringLiteral("id"), ids.Of(material.id)},
+        {QStringLiteral("name"), material.name},
+        {QStringLiteral("diffuse"), ColorToJson(material.diffuse)},
+        {QStringLiteral("textures"),
+         ListOf(material.textures,
+                [&](const auto& texture) { return TextureToJson(texture.first, texture.second, states.Folder()); })},
+        {QStringLiteral("state"), states.Write(material.state)}};
 }
 
-QJsonObject SlotToJson(const MaterialSlot& slot, LocalIds& ids)
+QJsonObject SlotToJson(const MaterialSlot& slot, LocalIds& ids, StateWriter& states)
 {
     return {{QStringLiteral("material"), ids.Of(slot.material)},
             {QStringLiteral("indices"), ArrayToJson(slot.indices)},
-            {QStringLiteral("cloth"), StateToJson(slot.cloth)}};
+            {QStringLiteral("cloth"), states.Write(slot.cloth)}};
 }
 
-QJsonObject MeshToJson(const Mesh& mesh, LocalIds& ids)
+QJsonObject MeshToJson(const Mesh& mesh, LocalIds& ids, StateWriter& states)
 {
     return {{QStringLiteral("id"), ids.Of(mesh.id)},
             {QStringLiteral("name"), mesh.name},
@@ -81,59 +76,61 @@ QJsonObject MeshToJson(const Mesh& mesh, LocalIds& ids)
             {QStringLiteral("normals"), ArrayToJson(mesh.normals)},
             {QStringLiteral("uvs"), ArrayToJson(mesh.uvs)},
             {QStringLiteral("slots"),
-             ListOf(mesh.materialSlots, [&](const MaterialSlot& slot) { return SlotToJson(slot, ids); })}};
+             ListOf(mesh.materialSlots, [&](const MaterialSlot& slot) { return SlotToJson(slot, ids, states); })}};
 }
 
-QJsonObject ObjectToJson(const Object& object, LocalIds& ids, const QDir& folder)
+QJsonObject ObjectToJson(const Object& object, LocalIds& ids, StateWriter& states)
 {
     return {{QStringLiteral("id"), ids.Of(object.handle)},
             {QStringLiteral("name"), object.name},
             {QStringLiteral("traits"), StateToJson(object.traits)},
-            {QStringLiteral("state"), StateToJson(object.state)},
+            {QStringLiteral("state"), states.Write(object.state)},
             {QStringLiteral("materials"),
-             ListOf(object.materials, [&](const Material& material) { return MaterialToJson(material, ids, folder); })},
-            {QStringLiteral("meshes"), ListOf(object.meshes, [&](const Mesh& mesh) { return MeshToJson(mesh, ids); })}};
+             ListOf(object.materials, [&](const Material& material) { return MaterialToJson(material, ids, states); })},
+            {QStringLiteral("meshes"),
+             ListOf(object.meshes, [&](const Mesh& mesh) { return MeshToJson(mesh, ids, states); })}};
 }
 
 /// What all kinds of changes have in common.
 template <class Change>
-QJsonObject StatesToJson(const Change& change)
+QJsonObject StatesToJson(const Change& change, StateWriter& states)
 {
-    return {{QStringLiteral("before"), StateToJson(change.before)},
-            {QStringLiteral("after"), StateToJson(change.after)}};
+    return {{QStringLiteral("before"), states.Write(change.before)},
+            {QStringLiteral("after"), states.Write(change.after)}};
 }
 
-QJsonObject ClothChangeToJson(const SceneEdit::ClothChange& change, LocalIds& ids)
+QJsonObject ClothChangeToJson(const SceneEdit::ClothChange& change, LocalIds& ids, StateWriter& states)
 {
-    QJsonObject json = StatesToJson(change);
+    QJsonObject json = StatesToJson(change, states);
     json.insert(QStringLiteral("object"), ids.Of(change.address.object));
     json.insert(QStringLiteral("mesh"), ids.Of(change.address.mesh));
     json.insert(QStringLiteral("material"), ids.Of(change.address.material));
     return json;
 }
 
-QJsonObject MaterialChangeToJson(const SceneEdit::MaterialChange& change, LocalIds& ids)
+QJsonObject MaterialChangeToJson(const SceneEdit::MaterialChange& change, LocalIds& ids, StateWriter& states)
 {
-    QJsonObject json = StatesToJson(change);
+    QJsonObject json = StatesToJson(change, states);
     json.insert(QStringLiteral("material"), ids.Of(change.material));
     return json;
 }
 
-QJsonObject ObjectChangeToJson(const SceneEdit::ObjectChange& change, LocalIds& ids)
+QJsonObject ObjectChangeToJson(const SceneEdit::ObjectChange& change, LocalIds& ids, StateWriter& states)
 {
-    QJsonObject json = StatesToJson(change);
+    QJsonObject json = StatesToJson(change, states);
     json.insert(QStringLiteral("object"), ids.Of(change.object));
     return json;
 }
 
-QJsonObject EditToJson(const SceneEdit& edit, LocalIds& ids)
+QJsonObject EditToJson(const SceneEdit& edit, LocalIds& ids, StateWriter& states)
 {
-    return {
-        {QStringLiteral("text"), edit.text},
-        {QStringLiteral("cloths"), ListOf(edit.cloths, [&](const auto& c) { return ClothChangeToJson(c, ids); })},
-        {QStringLiteral("materials"),
-         ListOf(edit.materials, [&](const auto& c) { return MaterialChangeToJson(c, ids); })},
-        {QStringLiteral("objects"), ListOf(edit.objects, [&](const auto& c) { return ObjectChangeToJson(c, ids); })}};
+    return {{QStringLiteral("text"), edit.text},
+            {QStringLiteral("cloths"),
+             ListOf(edit.cloths, [&](const auto& c) { return ClothChangeToJson(c, ids, states); })},
+            {QStringLiteral("materials"),
+             ListOf(edit.materials, [&](const auto& c) { return MaterialChangeToJson(c, ids, states); })},
+            {QStringLiteral("objects"),
+             ListOf(edit.objects, [&](const auto& c) { return ObjectChangeToJson(c, ids, states); })}};
 }
 
 } // namespace
@@ -141,14 +138,17 @@ QJsonObject EditToJson(const SceneEdit& edit, LocalIds& ids)
 QJsonObject SceneToJson(const Scene& scene, const QDir& folder)
 {
     LocalIds ids;
+    StateWriter states(folder);
     const QJsonArray objects =
-        ListOf(scene.AllObjects(), [&](const auto& object) { return ObjectToJson(*object, ids, folder); });
+        ListOf(scene.AllObjects(), [&](const auto& object) { return ObjectToJson(*object, ids, states); });
     const QJsonObject undo{{QStringLiteral("applied"), scene.UndoStack().index()},
-                           {QStringLiteral("steps"),
-                            ListOf(scene.UndoSteps(), [&](const SceneEdit& edit) { return EditToJson(edit, ids); })}};
+                           {QStringLiteral("steps"), ListOf(scene.UndoSteps(), [&](const SceneEdit& edit) {
+                                return EditToJson(edit, ids, states);
+                            })}};
     return {{QStringLiteral("format"), QLatin1String(SceneFormat::name)},
             {QStringLiteral("version"), SceneFormat::version},
             {QStringLiteral("objects"), objects},
+            {QStringLiteral("images"), states.Images()},
             {QStringLiteral("undo"), undo}};
 }
 

@@ -20,7 +20,7 @@ template <class Record, class Value>
 Field(const char*, Value Record::*) -> Field<Record, Value>;
 
 // What each record consists of, for everything that treats all its members alike: comparing, saving and loading.
-// The argument only selects the record.
+// Images and lists of names are left out; they are treated by themselves. The argument only selects the record.
 
 constexpr auto FieldsOf(const MV::SoftClothPropertyData&)
 {

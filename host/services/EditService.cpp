@@ -1,12 +1,43 @@
 #include "host/services/EditService.h"
 
 #include "host/services/RecordFields.h"
+#include "host/services/WeightImages.h"
+
+#include <algorithm>
 
 namespace Host {
 
 namespace {
 
 constexpr int softClothPhysics = 3;
+
+QMap<QString, QStringList> ToIgnored(const std::map<std::wstring, BF::CArrayList<std::wstring>>& names)
+{
+    QMap<QString, QStringList> ignored;
+    for (const auto& [mesh, materials] : names) {
+        QStringList& list = ignored[QString::fromStdWString(mesh)];
+        for (const std::wstring& material : materials) {
+            list.append(QString::fromStdWString(material));
+        }
+    }
+    return ignored;
+}
+
+/// Who offers a material wants it not to be ignored any more.
+void StopIgnoring(const Object& owner, const Material& material, SceneEdit& edit)
+{
+    ObjectState state = owner.state;
+    for (const Mesh& mesh : owner.meshes) {
+        const auto names = state.ignoredMaterials.find(mesh.name);
+        const bool hasMaterial =
+            std::any_of(mesh.materialSlots.begin(), mesh.materialSlots.end(),
+                        [&material](const MaterialSlot& slot) { return slot.material == material.id; });
+        if (names != state.ignoredMaterials.end() && hasMaterial) {
+            names->removeAll(material.name);
+        }
+    }
+    edit.objects.push_back({owner.handle, {}, state});
+}
 
 } // namespace
 
@@ -39,7 +70,8 @@ BF::Result EditService::EditCloths(const ClothAddress& address, bool affectAllMa
 }
 
 template <class Change>
-BF::Result EditService::EditObject(BF::CHandle* object, const QString& text, Change change)
+BF::Result EditService::EditObject(BF::CHandle* object, const QString& text, MV::EObjectChangedDataType changedData,
+                                   Change change)
 {
     const Object* found = CurrentScene().FindObject(object);
     if (!found) {
@@ -50,28 +82,25 @@ BF::Result EditService::EditObject(BF::CHandle* object, const QString& text, Cha
     ObjectState state = found->state;
     change(state);
     edit.objects.push_back({object, {}, state});
-    if (CurrentScene().Push(std::move(edit))) {
-        App().Send("ObjectDataChanged", &MV::CEventSender::ObjectDataChanged, BF::CArrayList<BF::CHandle*>{object},
-                   MV::EObjectChangedDataType::Topology);
-    }
+    App().PushObjectEdit(object, std::move(edit), changedData);
     return BF::Results::Success;
 }
 
 BF::Result EditService::ConvertToRigidBody(BF::CHandle* object)
 {
     return Record("ConvertToRigidBody", {In(object)}, [&] {
-        return EditObject(object, App().tr("Convert to rigid body"), [](ObjectState& state) {
-            state.softCloth = false;
-            state.rigidBody = true;
-        });
+        return EditObject(object, App().tr("Convert to rigid body"), MV::EObjectChangedDataType::Topology,
+                          [](ObjectState& state) {
+                              state.softCloth = false;
+                              state.rigidBody = true;
+                          });
     });
 }
 
 BF::Result EditService::CancelMultiMaterialSoftCloth(BF::CHandle* object)
 {
-    return Record("CancelMultiMaterialSoftCloth", {In(object)}, [&] {
-        return EditObject(object, App().tr("Soft cloth off"), [](ObjectState& state) { state.softCloth = false; });
-    });
+    return Record("CancelMultiMaterialSoftCloth", {In(object)},
+                  [&] { return App().CancelSoftCloth(object) ? BF::Results::Success : BF::Results::InvalidArgument; });
 }
 
 BF::Result EditService::SetPhysicsActive(BF::CHandle* object, int kind, bool active, bool flag1, bool flag2)
@@ -99,25 +128,40 @@ BF::Result EditService::SetUseGlobalGravity(BF::CHandle* object, Id mesh, Id mat
 
 BF::Result EditService::DeleteWeightImage(BF::CHandle* object, Id mesh, Id material)
 {
-    return Record("DeleteWeightImage", {In(object), InId(mesh), InId(material)}, [] { return BF::Results::Refused; });
+    return Record("DeleteWeightImage", {In(object), InId(mesh), InId(material)}, [&] {
+        return App().Weights().Delete({object, mesh, material});
+    });
 }
 
 BF::Result EditService::EmbedWeightImage(BF::CHandle* object, Id mesh, Id material)
 {
-    return Record("EmbedWeightImage", {In(object), InId(mesh), InId(material)}, [] { return BF::Results::Refused; });
+    return Record("EmbedWeightImage", {In(object), InId(mesh), InId(material)}, [&] {
+        return App().Weights().Embed({object, mesh, material});
+    });
 }
 
 BF::Result EditService::SetWeightImageAdjust(BF::CHandle* object, Id mesh, Id material,
                                              const MV::WeightImageAdjust& adjust, bool flag1, bool flag2)
 {
-    return Record("SetWeightImageAdjust", {In(object), InId(mesh), InId(material), In(adjust), In(flag1), In(flag2)},
-                  [] { return BF::Results::Refused; });
+    bool wasRun = false;
+    const BF::Result result =
+        Record("SetWeightImageAdjust", {In(object), InId(mesh), InId(material), In(adjust), In(flag1), In(flag2)}, [&] {
+            wasRun = true;
+            return App().Weights().Adjust({object, mesh, material}, adjust, flag1);
+        });
+    if (!wasRun && result == BF::Results::Refused) {
+        App().Weights().PushRefusal(App().tr("Adjust weight image"));
+    }
+    return result;
 }
 
 BF::Result EditService::SetIgnoredMaterialNames(BF::CHandle* object,
                                                 const std::map<std::wstring, BF::CArrayList<std::wstring>>& names)
 {
-    return Record("SetIgnoredMaterialNames", {In(object), In(names)}, [] { return BF::Results::Refused; });
+    return Record("SetIgnoredMaterialNames", {In(object), In(names)}, [&] {
+        return EditObject(object, App().tr("Ignore materials"), MV::EObjectChangedDataType::MaterialList,
+                          [&names](ObjectState& state) { state.ignoredMaterials = ToIgnored(names); });
+    });
 }
 
 BF::Result EditService::SetSoftClothProperty(BF::CHandle* object, Id mesh, Id material, MV::ESoftClothPropertyType type,
@@ -157,7 +201,7 @@ BF::Result EditService::UndoLastEdit()
         if (!CurrentScene().UndoStack().canUndo()) {
             return BF::Results::NothingDone;
         }
-        App().Undo();
+        App().TakeBack();
         return BF::Results::Success;
     });
 }
@@ -173,10 +217,13 @@ BF::Result EditService::SetMaterialSoftClothEnabled(Id material, bool enabled)
         edit.text = enabled ? App().tr("Add %1 to the soft cloth").arg(found->name)
                             : App().tr("Take %1 out of the soft cloth").arg(found->name);
         edit.materials.push_back({material, {}, MaterialState{enabled}});
+        const Object& owner = *CurrentScene().OwnerOfMaterial(material);
+        if (enabled && !owner.state.ignoredMaterials.isEmpty()) {
+            StopIgnoring(owner, *found, edit);
+        }
         if (CurrentScene().Push(std::move(edit))) {
-            BF::CHandle* owner = CurrentScene().OwnerOfMaterial(material)->handle;
-            App().Send("ObjectDataChanged", &MV::CEventSender::ObjectDataChanged, BF::CArrayList<BF::CHandle*>{owner},
-                       MV::EObjectChangedDataType::MaterialList);
+            App().Send("ObjectDataChanged", &MV::CEventSender::ObjectDataChanged,
+                       BF::CArrayList<BF::CHandle*>{owner.handle}, MV::EObjectChangedDataType::MaterialList);
         }
         return BF::Results::Success;
     });

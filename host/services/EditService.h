@@ -37,7 +37,8 @@ private:
     BF::Result EditCloths(const ClothAddress& address, bool affectAllMaterials, const QString& text, Change change);
     /// Applies \p change to the object's state, as one undo step, and tells of it.
     template <class Change>
-    BF::Result EditObject(BF::CHandle* object, const QString& text, Change change);
+    BF::Result EditObject(BF::CHandle* object, const QString& text, MV::EObjectChangedDataType changedData,
+                          Change change);
 };
 
 } // namespace Host

@@ -4,9 +4,12 @@
 #include "host/services/EditService.h"
 #include "host/services/FileService.h"
 #include "host/services/HotKeyService.h"
+#include "host/services/ImageEditor.h"
+#include "host/services/Pictures.h"
 #include "host/services/SceneService.h"
 #include "host/services/SoftClothService.h"
 #include "host/services/UiService.h"
+#include "host/services/WeightImages.h"
 
 #include <algorithm>
 
@@ -33,6 +36,9 @@ constexpr int noConversion = 3;
 HostApplication::HostApplication(QObject* parent)
     : QObject(parent)
     , m_scene(std::make_unique<Scene>())
+    , m_pictures(std::make_unique<Host::Pictures>(*this))
+    , m_weightImages(std::make_unique<Host::WeightImages>(*this))
+    , m_imageEditor(std::make_unique<Host::ImageEditor>(*this))
     , m_sceneService(std::make_unique<SceneService>(*this))
     , m_editService(std::make_unique<EditService>(*this))
     , m_fileService(std::make_unique<FileService>(*this))
@@ -41,6 +47,11 @@ HostApplication::HostApplication(QObject* parent)
     , m_softClothService(std::make_unique<SoftClothService>(*this))
     , m_auxService(std::make_unique<AuxService>(*this))
 {
+    const ImageStore& store = m_pictures->Store();
+    connect(&store, &ImageStore::LoadingStarted, this,
+            [this] { Send("ImageAsyncLoadStart", &CEventSender::ImageAsyncLoadStart); });
+    connect(&store, &ImageStore::LoadingDone, this,
+            [this] { Send("ImageAsyncLoadAllDone", &CEventSender::ImageAsyncLoadAllDone); });
 }
 
 HostApplication::~HostApplication() = default;
@@ -93,6 +104,8 @@ void HostApplication::ReplaceScene(std::unique_ptr<Scene> scene, MV::EFileType t
     // The old scene lives until everybody has heard of the new one.
     const std::unique_ptr<Scene> old = std::exchange(m_scene, std::move(scene));
     m_scene->physicsEngine = old->physicsEngine;
+    m_weightImages->EndAdjusting();
+    m_pictures->Handles().Clear();
     Q_EMIT SceneReplaced();
     Send("FileLoaded", &CEventSender::FileLoaded, type);
     Send("AfterFileLoaded", &CEventSender::AfterFileLoaded, type);
@@ -144,12 +157,36 @@ void HostApplication::Select(const QVector<BF::CHandle*>& objects)
 
 void HostApplication::Undo()
 {
+    m_weightImages->EndAdjusting();
     StepUndoStack(false);
 }
 
 void HostApplication::Redo()
 {
+    m_weightImages->EndAdjusting();
     StepUndoStack(true);
+}
+
+void HostApplication::TakeBack()
+{
+    StepUndoStack(false);
+}
+
+void HostApplication::LoadImages(BF::CHandle* object)
+{
+    if (const Object* found = m_scene->FindObject(object)) {
+        m_pictures->LoadInBackground(*found);
+    }
+}
+
+void HostApplication::TellProblem(const QString& sentence)
+{
+    Q_EMIT ProblemTold(sentence);
+}
+
+JournalText HostApplication::Text() const
+{
+    return JournalText(*m_scene, &m_pictures->Handles());
 }
 
 /// After the step the panel reloads its material list; the images event makes it read the values again without
@@ -278,24 +315,60 @@ bool HostApplication::SetSoftClothActive(BF::CHandle* object, bool active)
     state.softCloth = active;
     state.rigidBody = state.rigidBody && !active;
     edit.objects.push_back({object, {}, state});
-    const std::vector<ClothAddress> all = Scene::SlotsOf(*found);
-    const bool someActive = std::any_of(all.begin(), all.end(), [this](const ClothAddress& address) {
-        return m_scene->FindSlot(address)->cloth.active;
-    });
-    if (active && !someActive) {
-        for (const ClothAddress& address : all) {
-            if (m_scene->FindMaterial(address.material)->state.softClothEnabled) {
+    if (active && ActiveSlotCount(*found) == 0) {
+        for (const ClothAddress& address : Scene::SlotsOf(*found)) {
+            if (m_scene->MayTakePart(address.material)) {
                 ClothState cloth = m_scene->FindSlot(address)->cloth;
                 cloth.active = true;
                 edit.cloths.push_back({address, {}, cloth});
             }
         }
     }
-    if (m_scene->Push(std::move(edit))) {
-        Send("ObjectDataChanged", &CEventSender::ObjectDataChanged, Objects{object},
-             MV::EObjectChangedDataType::Topology);
-    }
+    PushObjectEdit(object, std::move(edit));
     return true;
+}
+
+void HostApplication::ConvertToSoftCloth(BF::CHandle* object)
+{
+    const Object* found = m_scene->FindObject(object);
+    const int activeBefore = found ? ActiveSlotCount(*found) : 0;
+    if (SetSoftClothActive(object, true) && ActiveSlotCount(*found) > activeBefore + 1) {
+        Send("PhysicsSoftClothMultiMaterialsDetected", &CEventSender::PhysicsSoftClothMultiMaterialsDetected, object);
+    }
+}
+
+bool HostApplication::CancelSoftCloth(BF::CHandle* object)
+{
+    const Object* found = m_scene->FindObject(object);
+    if (!found) {
+        return false;
+    }
+    SceneEdit edit;
+    edit.text = tr("Cancel soft cloth");
+    ObjectState state = found->state;
+    state.softCloth = false;
+    edit.objects.push_back({object, {}, state});
+    for (const ClothAddress& address : Scene::SlotsOf(*found)) {
+        ClothState cloth = m_scene->FindSlot(address)->cloth;
+        cloth.active = false;
+        edit.cloths.push_back({address, {}, cloth});
+    }
+    PushObjectEdit(object, std::move(edit));
+    return true;
+}
+
+void HostApplication::PushObjectEdit(BF::CHandle* object, SceneEdit edit, MV::EObjectChangedDataType changedData)
+{
+    if (m_scene->Push(std::move(edit))) {
+        Send("ObjectDataChanged", &CEventSender::ObjectDataChanged, Objects{object}, changedData);
+    }
+}
+
+int HostApplication::ActiveSlotCount(const Object& object) const
+{
+    const std::vector<ClothAddress> all = Scene::SlotsOf(object);
+    return int(std::count_if(all.begin(), all.end(),
+                             [this](const ClothAddress& address) { return m_scene->FindSlot(address)->cloth.active; }));
 }
 
 } // namespace Host

@@ -23,9 +23,12 @@ class AuxService;
 class EditService;
 class FileService;
 class HotKeyService;
+class ImageEditor;
+class Pictures;
 class SceneService;
 class SoftClothService;
 class UiService;
+class WeightImages;
 
 /// The stand-in host application: a scene, the services over it, the events, the call journal and the fault plan.
 ///
@@ -54,6 +57,15 @@ public:
     FaultPlan& Faults() { return m_faults; }
     PreparedAnswers& Answers() { return m_answers; }
 
+    // Images.
+    Host::Pictures& Images() const { return *m_pictures; }
+    Host::WeightImages& Weights() const { return *m_weightImages; }
+    Host::ImageEditor& Editor() const { return *m_imageEditor; }
+    /// Decodes the textures of an object in the background, with events at the beginning and at the end.
+    void LoadImages(BF::CHandle* object);
+    /// Tells the user about something that went wrong with a file, in a sentence.
+    void TellProblem(const QString& sentence);
+
     /// Parent of the plug-in's dialogs and of the host's own.
     void SetMainWindow(QWidget* window) { m_mainWindow = window; }
     QWidget* MainWindow() const { return m_mainWindow; }
@@ -72,6 +84,8 @@ public:
     void Select(const QVector<BF::CHandle*>& objects);
     void Undo();
     void Redo();
+    /// Takes the last edit back for the one who made it; a run of edits can go on after that.
+    void TakeBack();
 
     // Gates and modes.
 
@@ -87,15 +101,27 @@ public:
 
     // Edits that more than one caller makes.
 
+    /// Pushes an edit of one object; when it changes something, says which of the object's data changed.
+    void PushObjectEdit(BF::CHandle* object, SceneEdit edit,
+                        MV::EObjectChangedDataType changedData = MV::EObjectChangedDataType::Topology);
     /// Switches soft cloth physics of an object. Switched on, the materials that may take part become soft cloth
     /// unless some already are. \return false for an unknown object
     bool SetSoftClothActive(BF::CHandle* object, bool active);
+    /// Makes an object soft cloth at the user's command to the host, outside the panel. Where several materials become
+    /// soft cloth at once, the event that tells of it is sent.
+    void ConvertToSoftCloth(BF::CHandle* object);
+    /// Takes all materials of an object out of the soft cloth and switches its physics off.
+    /// \return false for an unknown object
+    bool CancelSoftCloth(BF::CHandle* object);
+
+    /// How values stand in the journal.
+    JournalText Text() const;
 
     /// Sends an event and records it in the journal. The modes above send theirs; the host controls send any.
     template <class... Parameters, class... Arguments>
     void Send(const char* name, void (MV::CEventSender::*eventSignal)(Parameters...), const Arguments&... arguments)
     {
-        const JournalText text(*m_scene);
+        [[maybe_unused]] const JournalText text = Text();
         JournalEntry entry;
         entry.kind = JournalEntry::Kind::Event;
         entry.service = QStringLiteral("Event");
@@ -112,6 +138,8 @@ Q_SIGNALS:
     void SceneReplaced();
     /// Engine, playing, dialog mode, pick mode or traits changed.
     void StateChanged();
+    /// Something went wrong with a file; \p sentence is for the user.
+    void ProblemTold(const QString& sentence);
     /// The plug-in asked the host to draw the scene again.
     void SceneRefreshRequested();
     /// The plug-in asked for a page of the host's panels.
@@ -119,6 +147,7 @@ Q_SIGNALS:
 
 private:
     void StepUndoStack(bool forward);
+    int ActiveSlotCount(const Object& object) const;
 
     std::unique_ptr<Scene> m_scene;
     MV::CEventSender m_eventSender;
@@ -127,6 +156,9 @@ private:
     PreparedAnswers m_answers;
     QPointer<QWidget> m_mainWindow;
     QString m_dataFolder;
+    std::unique_ptr<Host::Pictures> m_pictures;
+    std::unique_ptr<Host::WeightImages> m_weightImages;
+    std::unique_ptr<Host::ImageEditor> m_imageEditor;
 
     std::unique_ptr<SceneService> m_sceneService;
     std::unique_ptr<EditService> m_editService;

@@ -2,6 +2,7 @@
 
 #include "host/scene/Handles.h"
 #include "host/scene/Scene.h"
+#include "host/services/ImageHandles.h"
 
 #include <QAction>
 #include <QWidget>
@@ -62,7 +63,11 @@ QString JournalText::operator()(const BF::CHandle* handleOrId) const
         return QStringLiteral("null");
     }
     const QString name = m_scene.NameOf(handleOrId);
-    return name.isNull() ? QStringLiteral("unknown 0x%1").arg(ToId(handleOrId), 0, 16) : (*this)(name);
+    if (!name.isNull()) {
+        return (*this)(name);
+    }
+    const QString image = m_images ? m_images->NameOf(handleOrId, m_scene) : QString();
+    return image.isNull() ? QStringLiteral("unknown 0x%1").arg(ToId(handleOrId), 0, 16) : image;
 }
 
 QString JournalText::operator()(BF::Result value) const

@@ -19,14 +19,17 @@ class QWidget;
 
 namespace Host {
 
+class ImageHandles;
 class Scene;
 
 /// How values stand in the call journal. Handles and ids are shown by name, which takes the scene.
 class JournalText
 {
 public:
-    explicit JournalText(const Scene& scene)
+    /// \param images  by which image handles are named; null for unnamed ones
+    explicit JournalText(const Scene& scene, const ImageHandles* images = nullptr)
         : m_scene(scene)
+        , m_images(images)
     {
     }
 
@@ -67,6 +70,7 @@ public:
 
 private:
     const Scene& m_scene;
+    const ImageHandles* m_images;
 };
 
 } // namespace Host

@@ -14,6 +14,16 @@ constexpr int presetFolder = 3;
 constexpr int profileFolder = 72;
 constexpr int softClothPhysics = 3;
 
+/// Asks for one of the formats that images can be written in. \return an empty path when the user cancelled
+QString AskForSavePath(QWidget* parent, const QString& title, const QString& defaultName)
+{
+    QFileDialog dialog(parent, title, {}, QStringLiteral("Images (*.png *.jpg *.jpeg *.bmp)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("png"));
+    dialog.selectFile(defaultName);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constFirst() : QString();
+}
+
 } // namespace
 
 SceneService::SceneService(HostApplication& host)
@@ -137,8 +147,7 @@ BF::Result SceneService::GetSaveImageFileName(QString& path, int kind1, int kind
         if (prepared || App().Answers().unattended) {
             path = prepared.value_or(QString());
         } else {
-            path = QFileDialog::getSaveFileName(App().MainWindow(), App().tr("Save Image"), defaultName,
-                                                ImageFileFilter());
+            path = AskForSavePath(App().MainWindow(), App().tr("Save Image"), defaultName);
         }
         return BF::Results::Success;
     });
@@ -151,7 +160,8 @@ BF::Result SceneService::GetOpenImageFileName(QString& path, int kind1, int kind
         if (prepared || App().Answers().unattended) {
             path = prepared.value_or(QString());
         } else {
-            path = QFileDialog::getOpenFileName(App().MainWindow(), App().tr("Open Image"), {}, ImageFileFilter());
+            path = QFileDialog::getOpenFileName(App().MainWindow(), App().tr("Open Image"), {},
+                                                QStringLiteral("Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)"));
         }
         return BF::Results::Success;
     });

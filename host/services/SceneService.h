@@ -76,8 +76,16 @@ private:
     template <class Read>
     BF::Result ReadSlot(const char* operation, BF::CHandle* object, Id mesh, Id material,
                         std::vector<JournalArgument> furtherArguments, Read read) const;
-    /// Records an operation of the weight images, which the host does not have.
-    BF::Result Unavailable(const char* operation, const std::vector<JournalArgument>& arguments) const;
+    /// Records an operation on a texture of a material and answers with what \p use makes of it, or a failure for an
+    /// unknown material.
+    template <class Use>
+    BF::Result UseTexture(const char* operation, Id material, MV::ETextureChannel channel,
+                          std::vector<JournalArgument> furtherArguments, Use use) const;
+    /// The object of that handle, or the one that the mesh of that handle belongs to; null for an unknown handle.
+    const Object* FindOwner(const BF::CHandle* objectOrMesh) const;
+    /// Writes the UV layout of a material over one of its textures into a new file.
+    BF::Result WriteUvTexture(const BF::CHandle* objectOrMesh, const Material& material, MV::ETextureChannel channel,
+                              QString& file) const;
 };
 
 } // namespace Host

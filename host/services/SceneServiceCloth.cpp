@@ -6,17 +6,15 @@ namespace Host {
 BF::Result SceneService::IsSoftClothActive(BF::CHandle* object, Id mesh, Id material, bool& active)
 {
     return ReadSlot("IsSoftClothActive", object, mesh, material, {Out(active)}, [&](const MaterialSlot& slot) {
-        active = CurrentScene().FindObject(object)->state.softCloth && slot.cloth.active &&
-                 CurrentScene().FindMaterial(material)->state.softClothEnabled;
+        // It stays soft cloth while the object's physics is off, and goes on as it was once that is on again.
+        active = slot.cloth.active && CurrentScene().MayTakePart(material);
     });
 }
 
 bool SceneService::IsMaterialSoftClothEnabled(Id material)
 {
-    return RecordValue("IsMaterialSoftClothEnabled", {InId(material)}, [&] {
-        const Material* found = CurrentScene().FindMaterial(material);
-        return found && found->state.softClothEnabled;
-    });
+    return RecordValue("IsMaterialSoftClothEnabled", {InId(material)},
+                       [&] { return CurrentScene().MayTakePart(material); });
 }
 
 BF::Result SceneService::GetUseGlobalGravity(BF::CHandle* object, Id mesh, Id material, bool& use,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/services/Pictures.h"
 #include "host/services/SceneService.h"
 
 /// How the scene service's operations look things up; shared by the files that implement it.
@@ -37,10 +38,18 @@ BF::Result SceneService::ReadSlot(const char* operation, BF::CHandle* object, Id
     });
 }
 
-/// Filter of the host's image file dialogs.
-inline QString ImageFileFilter()
+template <class Use>
+BF::Result SceneService::UseTexture(const char* operation, Id material, MV::ETextureChannel channel,
+                                    std::vector<JournalArgument> furtherArguments, Use use) const
 {
-    return QStringLiteral("Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)");
+    std::vector<JournalArgument> arguments{InId(material), In(channel)};
+    for (JournalArgument& argument : furtherArguments) {
+        arguments.push_back(std::move(argument));
+    }
+    return Record(operation, arguments, [&] {
+        return CurrentScene().FindMaterial(material) ? use(App().Images().TextureOf(material, channel))
+                                                     : BF::Results::InvalidArgument;
+    });
 }
 
 } // namespace Host

@@ -47,14 +47,14 @@ protected:
     template <class T>
     JournalArgument In(const T& value) const
     {
-        return JournalArgument(JournalText(CurrentScene())(value));
+        return JournalArgument(m_host.Text()(value));
     }
     /// A mesh or a material id, shown by name.
     JournalArgument InId(Id id) const { return In(ToHandle(id)); }
     template <class T>
     JournalArgument Out(const T& value) const
     {
-        return JournalArgument([this, &value] { return JournalText(CurrentScene())(value); });
+        return JournalArgument([this, &value] { return m_host.Text()(value); });
     }
     JournalArgument OutIds(const BF::CArrayList<Id>& ids) const
     {
@@ -63,7 +63,7 @@ protected:
             for (const Id id : ids) {
                 handles.Add(ToHandle(id));
             }
-            return JournalText(CurrentScene())(handles);
+            return m_host.Text()(handles);
         });
     }
 
@@ -74,7 +74,7 @@ protected:
         const qint64 entry = Begin(operation, arguments);
         const auto fault = m_host.Faults().Consult(QLatin1String(operation));
         const BF::Result result = fault ? *fault : body();
-        End(entry, arguments, JournalText(CurrentScene())(result));
+        End(entry, arguments, m_host.Text()(result));
         return result;
     }
 
@@ -85,7 +85,7 @@ protected:
     {
         const qint64 entry = Begin(operation, arguments);
         const auto value = body();
-        End(entry, arguments, JournalText(CurrentScene())(value));
+        End(entry, arguments, m_host.Text()(value));
         return value;
     }
 

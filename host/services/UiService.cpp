@@ -1,5 +1,7 @@
 #include "host/services/UiService.h"
 
+#include "host/services/ImageEditor.h"
+
 #include <QMessageBox>
 
 namespace Host {
@@ -62,7 +64,13 @@ BF::Result UiService::RefreshScene(int flag)
 
 BF::Result UiService::LaunchImageEditor(const BF::CArrayList<std::wstring>& files)
 {
-    return Record("LaunchImageEditor", {In(files)}, [] { return BF::Results::Refused; });
+    return Record("LaunchImageEditor", {In(files)}, [&] {
+        QStringList paths;
+        for (const std::wstring& file : files) {
+            paths.append(QString::fromStdWString(file));
+        }
+        return App().Editor().Launch(paths);
+    });
 }
 
 int UiService::ShowMessageBox(const QString& text, const QString& title, QWidget* parent, int icon, int buttons,

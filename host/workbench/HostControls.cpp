@@ -108,7 +108,11 @@ void HostControls::AddObjectControls(QFormLayout* form)
     m_softCloth->setToolTip(tr("Switches soft cloth physics of the object, as the host's own menus would"));
     connect(m_softCloth, &QCheckBox::clicked, this, [this](bool active) {
         if (const Object* object = SelectedObject(m_host)) {
-            m_host.SetSoftClothActive(object->handle, active);
+            if (active) {
+                m_host.ConvertToSoftCloth(object->handle);
+            } else {
+                m_host.SetSoftClothActive(object->handle, false);
+            }
         }
     });
     form->addRow(QString(), m_softCloth);

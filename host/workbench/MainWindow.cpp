@@ -2,6 +2,7 @@
 
 #include "host/import/ModelImport.h"
 #include "host/scene/SceneFile.h"
+#include "host/services/ImageEditor.h"
 #include "host/workbench/HostCallsView.h"
 #include "host/workbench/HostControls.h"
 #include "host/workbench/ModifyPanel.h"
@@ -15,6 +16,7 @@
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -42,6 +44,8 @@ QString SceneFilter()
     return MainWindow::tr("Soft cloth scenes (*.clothscene)");
 }
 
+const QString imageEditorKey = QStringLiteral("imageEditor");
+
 QString ExpandKey(MV::CSectionInterface& section)
 {
     return QStringLiteral("sections/expanded_%1").arg(section.GetSectionOrder());
@@ -63,6 +67,7 @@ MainWindow::MainWindow(QWidget* parent)
         ShowTitle();
     });
     connect(&m_host.CurrentScene().UndoStack(), &QUndoStack::cleanChanged, this, &MainWindow::ShowTitle);
+    connect(&m_host, &HostApplication::ProblemTold, this, &MainWindow::Complain);
     ShowTitle();
 }
 
@@ -91,7 +96,13 @@ void MainWindow::CreateDocks()
     resizeDocks({tree, controls}, {260, 480}, Qt::Vertical);
     resizeDocks({tree, modify}, {270, 330}, Qt::Horizontal);
     connect(m_controls, &HostControls::ApplicationChosen, this, &MainWindow::RestartPlugin);
-    statusBar();
+    m_panelPage = new QLabel(this);
+    m_panelPage->setObjectName(QStringLiteral("panelPage"));
+    m_panelPage->setToolTip(tr("The page of the host's panels that the plug-in asked for last"));
+    statusBar()->addPermanentWidget(m_panelPage);
+    connect(&m_host, &HostApplication::PanelPageRequested, this, [this](int page, int order, int flags) {
+        m_panelPage->setText(tr("Panel page %1, place %2, option %3").arg(page).arg(order).arg(flags));
+    });
 }
 
 void MainWindow::CreateActions()
@@ -157,6 +168,10 @@ void MainWindow::CreateEditActions()
         }
     });
     remove->setShortcut(QKeySequence::Delete);
+
+    edit->addSeparator();
+    edit->addAction(tr("Image &Editor…"), this, &MainWindow::ChooseImageEditor)
+        ->setObjectName(QStringLiteral("imageEditorAction"));
 }
 
 bool MainWindow::StartPlugin(const QString& libraryFile, MV::ECompatibleApp app)
@@ -201,7 +216,7 @@ bool MainWindow::ImportModel(const QString& path)
         Complain(result.error);
         return false;
     }
-    m_host.AddModel(std::move(*result.object));
+    m_host.LoadImages(m_host.AddModel(std::move(*result.object)));
     return true;
 }
 
@@ -215,6 +230,9 @@ bool MainWindow::OpenScene(const QString& path)
     }
     m_scenePath = path;
     m_host.ReplaceScene(std::move(scene), MV::EFileType::Scene);
+    for (const Object* object : m_host.CurrentScene().Objects()) {
+        m_host.LoadImages(object->handle);
+    }
     return true;
 }
 
@@ -280,6 +298,26 @@ bool MainWindow::MayDiscardScene()
         QMessageBox::warning(this, tr("Unsaved changes"), tr("The scene has changes that are not saved."),
                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && SaveOrChoose());
+}
+
+void MainWindow::RestoreImageEditor()
+{
+    m_host.Editor().SetProgram(QSettings().value(imageEditorKey).toString());
+}
+
+void MainWindow::ChooseImageEditor()
+{
+    bool chosen = false;
+    const QString program = QInputDialog::getText(
+        this, tr("Image Editor"), tr("Program that opens weight images; empty for what the desktop opens them with:"),
+        QLineEdit::Normal, m_host.Editor().Program(), &chosen);
+    if (!chosen) {
+        return;
+    }
+    m_host.Editor().SetProgram(program);
+    if (!m_unattended) {
+        QSettings().setValue(imageEditorKey, program);
+    }
 }
 
 void MainWindow::SetUnattended()

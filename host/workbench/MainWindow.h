@@ -7,6 +7,8 @@
 
 #include <QMainWindow>
 
+class QLabel;
+
 namespace Host {
 
 class HostControls;
@@ -39,6 +41,8 @@ public:
     /// With nobody to click, messages go to the standard error output instead of a box, and nothing is remembered
     /// from one run to the next.
     void SetUnattended();
+    /// Sets the program that the user chose for images in an earlier run.
+    void RestoreImageEditor();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -51,6 +55,7 @@ private:
     void RestartPlugin(int application);
 
     void ChooseModel();
+    void ChooseImageEditor();
     void ChooseScene();
     bool SaveOrChoose();
     bool ChooseAndSave();
@@ -66,6 +71,7 @@ private:
     PluginHost m_pluginHost; ///< Dies before the host and before the panel that shows its sections.
     ModifyPanel* m_modifyPanel = nullptr;
     HostControls* m_controls = nullptr;
+    QLabel* m_panelPage = nullptr;
     QString m_libraryFile;
     QString m_scenePath;
     bool m_unattended = false;

@@ -59,7 +59,10 @@ void ApplyWorkbenchStyle(QApplication& application)
     // Section headers read from left to right, as in every property editor.
     application.setStyleSheet(QStringLiteral("QPushButton#qtExpandPushButton { text-align: left; padding: 5px 8px; "
                                              "font-weight: bold; }"
-                                             "QToolTip { border: 1px solid #707070; }"));
+                                             "QToolTip { border: 1px solid #707070; }"
+                                             // An empty box has to be seen on the dark ground of a table.
+                                             "QTableWidget QCheckBox::indicator:unchecked { width: 12px; height: 12px; "
+                                             "border: 1px solid #8a8a8a; }"));
 }
 
 } // namespace Host

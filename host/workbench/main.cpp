@@ -1,6 +1,7 @@
+#include "host/services/ImageEditor.h"
 #include "host/workbench/MainWindow.h"
-#include "host/workbench/Tour.h"
 #include "host/workbench/WorkbenchStyle.h"
+#include "host/workbench/tour/Tour.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -14,6 +15,7 @@ struct Options
     QString model;
     QString plugin;
     QString tourFolder;
+    QString imageEditor; ///< Null when it is not given.
     MV::ECompatibleApp app = MV::ECompatibleApp::FamilyA;
 };
 
@@ -55,7 +57,11 @@ Options ReadOptions(const QApplication& application)
         QStringLiteral("tour"),
         QCoreApplication::translate("main", "Run the main job unattended and write pictures into this folder."),
         QStringLiteral("folder"));
-    parser.addOptions({appKind, plugin, tour});
+    const QCommandLineOption imageEditor(
+        QStringLiteral("image-editor"),
+        QCoreApplication::translate("main", "Program, with its options, that opens images in place of the one chosen."),
+        QStringLiteral("command"));
+    parser.addOptions({appKind, plugin, tour, imageEditor});
     parser.process(application);
 
     const QHash<QString, MV::ECompatibleApp> kinds{{QStringLiteral("a"), MV::ECompatibleApp::FamilyA},
@@ -69,6 +75,7 @@ Options ReadOptions(const QApplication& application)
         parser.positionalArguments().value(0, BesideProgram(QStringLiteral("../data/demo/" SOFTCLOTH_DEMO)));
     options.plugin = parser.value(plugin);
     options.tourFolder = parser.value(tour);
+    options.imageEditor = parser.isSet(imageEditor) ? parser.value(imageEditor) : QString();
     options.app = kinds.value(parser.value(appKind));
     return options;
 }
@@ -91,6 +98,11 @@ int main(int argc, char** argv)
     Host::MainWindow window;
     if (isTour) {
         window.SetUnattended();
+    } else {
+        window.RestoreImageEditor();
+    }
+    if (!options.imageEditor.isNull()) {
+        window.Application().Editor().SetProgram(options.imageEditor);
     }
     window.Application().SetDataFolder(BesideProgram(QStringLiteral("../data")));
     window.show();

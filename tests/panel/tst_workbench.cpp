@@ -1,5 +1,8 @@
+#include "host/images/ImageStore.h"
+#include "host/services/ImageEditor.h"
+#include "host/services/Pictures.h"
 #include "host/workbench/MainWindow.h"
-#include "host/workbench/Tour.h"
+#include "host/workbench/tour/Tour.h"
 #include "tests/support/Children.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/SampleModels.h"
@@ -14,6 +17,7 @@
 #include <QSpinBox>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QTreeWidget>
 
 /// The workbench's window with the real plug-in in it.
@@ -33,6 +37,9 @@ private Q_SLOTS:
     void anotherFamilyStartsThePluginAgain();
     void journalViewFilters();
     void importCanBeUndone();
+    void texturesAreLoadedInTheBackground();
+    void problemsWithImagesAreTold();
+    void imageEditorCanBeChosen();
     void missingLibrarySaysSo();
     void foreignLibrarySaysSo();
 
@@ -83,7 +90,7 @@ void TestWorkbench::brokenModelSaysSoAndChangesNothing()
 void TestWorkbench::sceneKeepsValuesAndUndoableEdits()
 {
     QVERIFY(m_window->ImportModel(SampleModels::RealModel(QStringLiteral("OBJ/spider.obj"))));
-    Child<QCheckBox>(m_window.get(), "softClothControl")->click();
+    m_window->Application().SetSoftClothActive(CurrentScene().Selection().first(), true);
     auto* margin = Child<QAbstractSpinBox>(m_window.get(), "qtCollideWithRigidMarginDoubleEXSpinBox");
     margin->selectAll();
     QTest::keyClicks(margin, QStringLiteral("2.5"));
@@ -241,6 +248,60 @@ void TestWorkbench::importCanBeUndone()
     QVERIFY(!Section()->isVisible());
     Child<QAction>(m_window.get(), "redoAction")->trigger();
     QCOMPARE(CurrentScene().Objects().size(), std::size_t(1));
+}
+
+void TestWorkbench::texturesAreLoadedInTheBackground()
+{
+    const auto events = [this] {
+        QStringList names;
+        for (const Host::JournalEntry& entry : m_window->Application().Journal().Entries()) {
+            if (entry.operation.startsWith(QLatin1String("ImageAsyncLoad"))) {
+                names.append(entry.operation);
+            }
+        }
+        return names;
+    };
+    QVERIFY(m_window->ImportModel(QStringLiteral(SOFTCLOTH_DEMO_FILE)));
+    QCOMPARE(events(), QStringList{QStringLiteral("ImageAsyncLoadStart")});
+    const QStringList both{QStringLiteral("ImageAsyncLoadStart"), QStringLiteral("ImageAsyncLoadAllDone")};
+    QTRY_COMPARE(events(), both);
+
+    // The images of a scene that is opened are loaded as well.
+    const QTemporaryDir folder;
+    QVERIFY(m_window->SaveScene(folder.filePath(QStringLiteral("demo.clothscene"))));
+    for (const Host::Material& material : CurrentScene().Objects().at(0)->materials) {
+        for (const auto& [channel, texture] : material.textures) {
+            m_window->Application().Images().Store().ForgetFile(texture.filePath);
+        }
+    }
+    QVERIFY(m_window->OpenScene(folder.filePath(QStringLiteral("demo.clothscene"))));
+    QTRY_COMPARE(events(), both + both);
+}
+
+void TestWorkbench::problemsWithImagesAreTold()
+{
+    ExpectWarning(QStringLiteral("The image is upside down."));
+    m_window->Application().TellProblem(QStringLiteral("The image is upside down."));
+}
+
+void TestWorkbench::imageEditorCanBeChosen()
+{
+    const Host::ImageEditor& editor = m_window->Application().Editor();
+    const auto choose = [this](const QString& program, Qt::Key key) {
+        QTimer::singleShot(0, m_window.get(), [program, key] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            auto* line = dialog->findChild<QLineEdit*>();
+            line->selectAll();
+            QTest::keyClicks(line, program);
+            QTest::keyClick(dialog, key);
+        });
+        Child<QAction>(m_window.get(), "imageEditorAction")->trigger();
+    };
+    QCOMPARE(editor.Program(), QString());
+    choose(QStringLiteral("paint --new"), Qt::Key_Return);
+    QCOMPARE(editor.Program(), QStringLiteral("paint --new"));
+    choose(QStringLiteral("other"), Qt::Key_Escape);
+    QCOMPARE(editor.Program(), QStringLiteral("paint --new"));
 }
 
 void TestWorkbench::missingLibrarySaysSo()

@@ -171,4 +171,12 @@ std::vector<Mesh> MakeCharacter()
     return meshes;
 }
 
+std::vector<Mesh> MakeFlag()
+{
+    const auto flag = [](float u, float v) { return QVector3D(1.5F * u, v, 0.03F * std::sin(2.0F * pi * u) * u); };
+    std::vector<Mesh> meshes{{"Sheet", {MakeCloth("Flag", flag, 60, 40)}}};
+    SmoothNormals(meshes.front().parts.front());
+    return meshes;
+}
+
 } // namespace Demo

@@ -10,6 +10,9 @@ namespace Demo {
 /// "Body skin" and "Hair", and the mesh "Clothes" with "Skirt" and "Cape".
 std::vector<Mesh> MakeCharacter();
 
+/// A flag of 1.5 by 1 units that hangs from its left edge, with the one material "Flag", whose texture it shows whole.
+std::vector<Mesh> MakeFlag();
+
 /// Where the pieces of the body are in the texture "Body skin", v growing upwards.
 namespace SkinAreas {
 inline constexpr QRectF torso(0.0, 0.0, 0.5, 0.5);

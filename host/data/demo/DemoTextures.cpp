@@ -1,75 +1,16 @@
 #include "host/data/demo/DemoTextures.h"
 
+#include "host/data/Painting.h"
 #include "host/data/demo/DemoCharacter.h"
 
-#include <QColor>
 #include <QPointF>
-
-#include <algorithm>
-#include <cmath>
 
 namespace Demo {
 
 namespace {
 
 constexpr int textureSize = 512;
-constexpr double pi = 3.14159265358979;
-
-/// A colour with real parts from 0 to 1, to compute with.
-struct Paint
-{
-    double red = 0.0;
-    double green = 0.0;
-    double blue = 0.0;
-};
-
-Paint FromColor(QRgb color)
-{
-    return {qRed(color) / 255.0, qGreen(color) / 255.0, qBlue(color) / 255.0};
-}
-
-Paint operator*(const Paint& paint, double factor)
-{
-    return {paint.red * factor, paint.green * factor, paint.blue * factor};
-}
-
-Paint Mix(const Paint& a, const Paint& b, double share)
-{
-    const double s = std::clamp(share, 0.0, 1.0);
-    return {a.red + (b.red - a.red) * s, a.green + (b.green - a.green) * s, a.blue + (b.blue - a.blue) * s};
-}
-
-/// 0 below \p edge, 1 above it, soft over a width of \p softness.
-double Step(double value, double edge, double softness)
-{
-    const double t = std::clamp((value - edge) / softness + 0.5, 0.0, 1.0);
-    return t * t * (3.0 - 2.0 * t);
-}
-
-/// The same number from 0 to 1 for the same two on every machine, without any order.
-double Noise(int x, int y)
-{
-    quint32 hash = static_cast<quint32>(x) * 0x9E3779B1U + static_cast<quint32>(y) * 0x85EBCA77U;
-    hash = (hash ^ (hash >> 15U)) * 0x2C1B3C6DU;
-    hash = (hash ^ (hash >> 12U)) * 0x297A2D39U;
-    return (hash ^ (hash >> 15U)) / 4294967295.0;
-}
-
-/// Paints each texel by its u and v, which grow to the right and upwards from 0 to 1.
-template <class PaintAt>
-QImage PaintImage(PaintAt paintAt)
-{
-    QImage image(textureSize, textureSize, QImage::Format_RGB32);
-    const auto part = [](double value) { return static_cast<int>(std::clamp(value, 0.0, 1.0) * 255.0 + 0.5); };
-    for (int y = 0; y < textureSize; ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < textureSize; ++x) {
-            const Paint paint = paintAt((x + 0.5) / textureSize, 1.0 - (y + 0.5) / textureSize);
-            line[x] = qRgb(part(paint.red), part(paint.green), part(paint.blue));
-        }
-    }
-    return image;
-}
+using namespace Painting;
 
 /// Below 1 inside an ellipse.
 double InEllipse(const QPointF& at, const QPointF& center, const QPointF& radii)
@@ -153,6 +94,19 @@ double StreakAt(double u, int width)
     return Noise(below % around, width) * (1.0 - t) + Noise((below + 1) % around, width) * t;
 }
 
+/// \p weightAt from 0 to 1; a rim of the first twentieth is black.
+template <class WeightAt>
+QImage PaintWeights(WeightAt weightAt)
+{
+    constexpr double rim = 0.05;
+    return PaintImage(textureSize,
+                      [weightAt](double u, double v) {
+                          const double weight = std::max(0.0, weightAt(u, v) - rim) / (1.0 - rim);
+                          return Paint{weight, weight, weight};
+                      })
+        .convertToFormat(QImage::Format_Grayscale8);
+}
+
 double HairShade(double u)
 {
     return 0.5 * StreakAt(u, 16) + 0.3 * StreakAt(u, 4) + 0.2 * StreakAt(u, 2);
@@ -162,7 +116,7 @@ double HairShade(double u)
 
 QImage PaintSkin()
 {
-    return PaintImage([](double u, double v) {
+    return PaintImage(textureSize, [](double u, double v) {
         const double grain = Noise(static_cast<int>(u * textureSize), static_cast<int>(v * textureSize));
         return SkinAt({u, v}) * (0.975 + 0.05 * grain);
     });
@@ -170,7 +124,7 @@ QImage PaintSkin()
 
 QImage PaintHair()
 {
-    return PaintImage([](double u, double v) {
+    return PaintImage(textureSize, [](double u, double v) {
         const Paint root = FromColor(qRgb(70, 34, 20));
         const Paint shine = FromColor(qRgb(190, 108, 58));
         const double band = std::exp(-std::pow((v - 0.80) / 0.06, 2.0));
@@ -180,7 +134,7 @@ QImage PaintHair()
 
 QImage PaintHairOpacity()
 {
-    return PaintImage([](double u, double v) {
+    return PaintImage(textureSize, [](double u, double v) {
         // The tips end at different heights; everything above them is solid.
         const double tip = 0.04 + 0.30 * hairTextureSplit * 2.0 * HairShade(u);
         const double solid = Step(v, tip, 0.03);
@@ -190,7 +144,7 @@ QImage PaintHairOpacity()
 
 QImage PaintSkirt()
 {
-    return PaintImage([](double u, double v) {
+    return PaintImage(textureSize, [](double u, double v) {
         const Paint ground = FromColor(qRgb(120, 28, 44));
         const Paint stripe = FromColor(qRgb(34, 38, 66));
         const Paint thread = FromColor(qRgb(226, 204, 150));
@@ -210,7 +164,7 @@ QImage PaintSkirt()
 
 QImage PaintCape()
 {
-    return PaintImage([](double u, double v) {
+    return PaintImage(textureSize, [](double u, double v) {
         const Paint ground = FromColor(qRgb(44, 40, 96));
         const Paint figure = FromColor(qRgb(74, 70, 140));
         const Paint gold = FromColor(qRgb(222, 182, 96));
@@ -224,6 +178,32 @@ QImage PaintCape()
         const double thread = 0.96 + 0.08 * Noise(static_cast<int>(u * textureSize), static_cast<int>(v * textureSize));
         return cloth * thread;
     });
+}
+
+QImage PaintFlag()
+{
+    return PaintImage(textureSize, [](double u, double v) {
+        const Paint upper = FromColor(qRgb(206, 214, 222));
+        const Paint lower = FromColor(qRgb(34, 74, 122));
+        const Paint ground = Mix(lower, upper, Step(v, 0.5, 0.004));
+        const double thread = 0.96 + 0.08 * Noise(static_cast<int>(u * textureSize), static_cast<int>(v * textureSize));
+        return Disc(ground, FromColor(qRgb(196, 64, 52)), {u, v}, {0.5, 0.5}, {0.18, 0.27}) * thread;
+    });
+}
+
+QImage PaintHangingWeights()
+{
+    return PaintWeights([](double, double v) { return 1.0 - v; });
+}
+
+QImage PaintFlagWeights()
+{
+    return PaintWeights([](double u, double) { return u; });
+}
+
+QImage PaintNoWeights()
+{
+    return PaintWeights([](double, double) { return 0.0; });
 }
 
 } // namespace Demo

@@ -13,5 +13,16 @@ QImage PaintHairOpacity();
 QImage PaintSkirt();
 /// A bordered cloth with a pattern of rhombs.
 QImage PaintCape();
+/// A disc on a ground of two stripes.
+QImage PaintFlag();
+
+// Weight images, in 8-bit gray: black holds the cloth fast and white lets it move.
+
+/// Of what hangs from above, as the skirt and the cape do: black at the top, lighter all the way down.
+QImage PaintHangingWeights();
+/// Of what is held at its left edge, as the flag is.
+QImage PaintFlagWeights();
+/// Nothing can move.
+QImage PaintNoWeights();
 
 } // namespace Demo

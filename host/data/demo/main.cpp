@@ -16,17 +16,21 @@ bool WriteFile(const QString& path, const QByteArray& bytes)
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
 }
 
-/// Writes the demo character and its textures into \p folder. \return the path that could not be written, if any
+/// Writes the demo models, their textures and weight images into \p folder. \return the path that could not be written,
+/// if any
 QString WriteDemo(const QDir& folder)
 {
     const std::vector<Demo::MaterialLook> looks{{"Body skin", "body-skin.png", {}},
                                                 {"Hair", "hair.png", "hair-opacity.png"},
                                                 {"Skirt", "skirt.png", {}},
                                                 {"Cape", "cape.png", {}}};
-    const QByteArray materialFile = "demo-character.mtl";
+    const QByteArray characterLooks = "demo-character.mtl";
+    const QByteArray flagLooks = "demo-flag.mtl";
     const std::pair<const char*, QByteArray> texts[] = {
-        {"demo-character.obj", Demo::ToObj(Demo::MakeCharacter(), materialFile)},
-        {materialFile.constData(), Demo::ToMtl(looks)},
+        {"demo-character.obj", Demo::ToObj(Demo::MakeCharacter(), characterLooks)},
+        {characterLooks.constData(), Demo::ToMtl(looks)},
+        {"demo-flag.obj", Demo::ToObj(Demo::MakeFlag(), flagLooks)},
+        {flagLooks.constData(), Demo::ToMtl({{"Flag", "flag.png", {}}})},
     };
     for (const auto& [name, text] : texts) {
         const QString path = folder.filePath(QLatin1String(name));
@@ -35,8 +39,15 @@ QString WriteDemo(const QDir& folder)
         }
     }
     const std::pair<const char*, QImage (*)()> images[] = {
-        {"body-skin.png", Demo::PaintSkin}, {"hair.png", Demo::PaintHair}, {"hair-opacity.png", Demo::PaintHairOpacity},
-        {"skirt.png", Demo::PaintSkirt},    {"cape.png", Demo::PaintCape},
+        {"body-skin.png", Demo::PaintSkin},
+        {"hair.png", Demo::PaintHair},
+        {"hair-opacity.png", Demo::PaintHairOpacity},
+        {"skirt.png", Demo::PaintSkirt},
+        {"cape.png", Demo::PaintCape},
+        {"flag.png", Demo::PaintFlag},
+        {"weights-hanging.png", Demo::PaintHangingWeights},
+        {"weights-flag.png", Demo::PaintFlagWeights},
+        {"weights-black.png", Demo::PaintNoWeights},
     };
     for (const auto& [name, paint] : images) {
         const QString path = folder.filePath(QLatin1String(name));

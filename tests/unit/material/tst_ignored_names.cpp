@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -156,7 +157,7 @@ void TestIgnoredNames::namesAreReadAndSet()
     fixture.Choose(fixture.Write(profile));
     const QStringList calls = fixture.Take();
     QVERIFY(calls.first().startsWith(QStringLiteral("SetIgnoredMaterialNames(\"Hero\", %1) -> ").arg(names)));
-    QVERIFY(calls.at(1).startsWith(QStringLiteral("GetMeshList(\"Hero\"")));
+    QVERIFY(calls.lastIndexOf(QRegularExpression(QStringLiteral("GetMeshList\\(\"Hero\".*"))) > 0);
     QCOMPARE(calls.last(), Journal::Refresh());
 }
 

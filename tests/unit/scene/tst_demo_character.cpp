@@ -29,6 +29,9 @@ private Q_SLOTS:
     void characterStandsOnTheGround();
     void texturesDecode();
     void hairOpacityHasHolesAndSolidParts();
+    void flagHasOneMaterialAndShowsItsWholeTexture();
+    void weightImagesAreGray_data();
+    void weightImagesAreGray();
     void generatorGivesTheSameBytesEachTime();
     void generatorRefusesAFolderThatCannotBeMade();
 
@@ -92,6 +95,13 @@ void TestDemoCharacter::textureCoordinatesAreInRange()
 
 void TestDemoCharacter::noTriangleIsDegenerate()
 {
+    // The import leaves out triangles without area, so none of the file may be missing.
+    const QByteArray file = Files::Read(QStringLiteral(SOFTCLOTH_DEMO_FOLDER "/demo-character.obj"));
+    std::size_t imported = 0;
+    for (const Mesh& mesh : m_character.meshes) {
+        imported += GeometryChecks::TriangleCount(mesh);
+    }
+    QCOMPARE(imported, static_cast<std::size_t>(file.count("\nf ")));
     for (const Mesh& mesh : m_character.meshes) {
         QCOMPARE(GeometryChecks::DegenerateTriangles(mesh), 0);
     }
@@ -140,6 +150,50 @@ void TestDemoCharacter::hairOpacityHasHolesAndSolidParts()
     QCOMPARE(qGray(image.pixel(256, image.height() - 1)), 0);
 }
 
+void TestDemoCharacter::flagHasOneMaterialAndShowsItsWholeTexture()
+{
+    const auto result = Host::ImportModel(QStringLiteral(SOFTCLOTH_DEMO_FOLDER "/demo-flag.obj"));
+    QVERIFY2(result.object, qPrintable(result.error));
+    QCOMPARE(GeometryChecks::Faults(*result.object), QString());
+    QCOMPARE(result.object->meshes.size(), std::size_t(1));
+    const Mesh& sheet = result.object->meshes.front();
+    QCOMPARE(MaterialNames(*result.object, sheet), QStringLiteral("Flag"));
+    QCOMPARE(sheet.positions.size(), std::size_t(61 * 41));
+    QVector2D low(1.0F, 1.0F);
+    QVector2D high(0.0F, 0.0F);
+    for (const QVector2D& uv : sheet.uvs) {
+        low = {qMin(low.x(), uv.x()), qMin(low.y(), uv.y())};
+        high = {qMax(high.x(), uv.x()), qMax(high.y(), uv.y())};
+    }
+    QCOMPARE(low, QVector2D(0.0F, 0.0F));
+    QCOMPARE(high, QVector2D(1.0F, 1.0F));
+}
+
+void TestDemoCharacter::weightImagesAreGray_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("topLeft");
+    QTest::addColumn<int>("topRight");
+    QTest::addColumn<int>("bottomLeft");
+    QTest::newRow("hanging") << QStringLiteral("weights-hanging.png") << 0 << 0 << 255;
+    QTest::newRow("flag") << QStringLiteral("weights-flag.png") << 0 << 255 << 0;
+    QTest::newRow("black") << QStringLiteral("weights-black.png") << 0 << 0 << 0;
+}
+
+void TestDemoCharacter::weightImagesAreGray()
+{
+    QFETCH(const QString, name);
+    QFETCH(const int, topLeft);
+    QFETCH(const int, topRight);
+    QFETCH(const int, bottomLeft);
+    const QImage image(QStringLiteral(SOFTCLOTH_DEMO_FOLDER "/") + name);
+    QCOMPARE(image.size(), QSize(512, 512));
+    QVERIFY(image.isGrayscale());
+    QCOMPARE(qGray(image.pixel(0, 0)), topLeft);
+    QCOMPARE(qGray(image.pixel(511, 0)), topRight);
+    QCOMPARE(qGray(image.pixel(0, 511)), bottomLeft);
+}
+
 void TestDemoCharacter::generatorGivesTheSameBytesEachTime()
 {
     QTemporaryDir folder;
@@ -147,7 +201,7 @@ void TestDemoCharacter::generatorGivesTheSameBytesEachTime()
     QCOMPARE(QProcess::execute(QStringLiteral(SOFTCLOTH_MAKE_DEMO), {again}), 0);
     const QDir built(QStringLiteral(SOFTCLOTH_DEMO_FOLDER));
     const QStringList names = QDir(again).entryList(QDir::Files, QDir::Name);
-    QCOMPARE(names.size(), 7);
+    QCOMPARE(names.size(), 13);
     for (const QString& name : names) {
         QVERIFY2(Files::Read(QDir(again).filePath(name)) == Files::Read(built.filePath(name)), qPrintable(name));
     }

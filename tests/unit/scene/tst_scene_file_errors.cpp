@@ -60,7 +60,7 @@ void TestSceneFileErrors::damagedFileIsRefused_data()
                                   << QStringLiteral("no scene of this application");
     QTest::newRow("format of another type")
         << QByteArray("{\"format\":1,\"version\":1}") << QStringLiteral("no scene of this application");
-    QTest::newRow("newer version") << QByteArray("{\"format\":\"softcloth-scene\",\"version\":2}")
+    QTest::newRow("newer version") << QByteArray("{\"format\":\"softcloth-scene\",\"version\":3}")
                                    << QStringLiteral("newer version");
     QTest::newRow("no version") << QByteArray("{\"format\":\"softcloth-scene\"}")
                                 << QStringLiteral("version is missing");

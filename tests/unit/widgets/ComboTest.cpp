@@ -8,6 +8,16 @@
 #include <QAbstractSpinBox>
 #include <QSlider>
 
+#include <type_traits>
+#include <utility>
+
+static_assert(std::is_same_v<decltype(std::declval<const QComboSpinBox&>().Value()), int>);
+static_assert(std::is_same_v<decltype(&QComboSpinBox::ValueChanged), void (QComboSpinBox::*)(int)>);
+static_assert(std::is_same_v<decltype(&QComboSpinBox::EditFinished), void (QComboSpinBox::*)()>);
+static_assert(std::is_same_v<decltype(std::declval<const QComboDoubleSpinBox&>().Value()), double>);
+static_assert(std::is_same_v<decltype(&QComboDoubleSpinBox::ValueChanged), void (QComboDoubleSpinBox::*)(double)>);
+static_assert(std::is_same_v<decltype(&QComboDoubleSpinBox::EditFinished), void (QComboDoubleSpinBox::*)()>);
+
 ComboTest::ComboTest() = default;
 
 ComboTest::~ComboTest() = default;

@@ -7,6 +7,13 @@
 
 #include <QLineEdit>
 
+#include <type_traits>
+
+static_assert(std::is_base_of_v<QSpinBox, QSpinBoxEx>);
+static_assert(std::is_same_v<decltype(&QSpinBoxEx::RecordEditingValue), void (QSpinBoxEx::*)()>);
+static_assert(std::is_base_of_v<QDoubleSpinBox, QDoubleSpinBoxEx>);
+static_assert(std::is_same_v<decltype(&QDoubleSpinBoxEx::RecordEditingValue), void (QDoubleSpinBoxEx::*)()>);
+
 SpinBoxTest::SpinBoxTest() = default;
 
 SpinBoxTest::~SpinBoxTest() = default;
@@ -16,6 +23,13 @@ void SpinBoxTest::initTestCase_data()
     QTest::addColumn<bool>("isDouble");
     QTest::newRow("QSpinBoxEx") << false;
     QTest::newRow("QDoubleSpinBoxEx") << true;
+}
+
+void SpinBoxTest::KeyboardTrackingRows()
+{
+    QTest::addColumn<bool>("tracking");
+    QTest::newRow("keyboard tracking") << true;
+    QTest::newRow("no keyboard tracking") << false;
 }
 
 void SpinBoxTest::SetUp()

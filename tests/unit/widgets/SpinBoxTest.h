@@ -29,6 +29,9 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
+    /// Rows with keyboard tracking on and off, in the column "tracking".
+    static void KeyboardTrackingRows();
+
     double Value() const { return m_box->property("value").toDouble(); }
     void SetValue(double value) { m_box->setProperty("value", value); }
     QLineEdit* Edit() const;

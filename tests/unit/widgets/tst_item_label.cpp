@@ -14,8 +14,13 @@
 #include <QUrl>
 
 #include <memory>
+#include <type_traits>
 
 Q_DECLARE_METATYPE(Qt::MouseButton)
+
+static_assert(std::is_base_of_v<QLabel, QItemLabel>);
+static_assert(std::is_same_v<decltype(&QItemLabel::SelectedChanged), void (QItemLabel::*)()>);
+static_assert(std::is_same_v<decltype(&QItemLabel::PreImageLoaded), void (QItemLabel::*)(QString)>);
 
 /// A label of 60 x 40 pixels that takes "png" and "jpg" files, beside a button that has the focus.
 class TestItemLabel : public TestCase

@@ -1,16 +1,12 @@
 #include "tests/unit/widgets/SpinBoxTest.h"
 #include "tests/unit/widgets/UserInput.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 
-using UserInput::Focus;
-
-/// Typed edits, values set by the program, and the keys that the box shares with its application.
+/// Typed edits and values set by the program.
 class TestSpinBoxEx : public SpinBoxTest
 {
     Q_OBJECT
@@ -34,54 +30,10 @@ private Q_SLOTS:
     void pastedValueIsCommittedOnFocusLoss();
     void setValueNeverCommits_data();
     void setValueNeverCommits();
-    void escapeTakesTypedTextBack();
-    void escapeIsTheWindowsWithKeyboardTracking();
-    void escapeBringsTheSpecialValueTextBack();
-    void escapeWithNothingToTakeBackReachesTheWindow();
-    void undoReachesTheApplication_data();
-    void undoReachesTheApplication();
-    void undoTakesTypedTextBack_data();
-    void undoTakesTypedTextBack();
     void destroyedByItsCommit_data();
     void destroyedByItsCommit();
     void commitThatMovesTheFocusHappensOnce();
 };
-
-namespace {
-
-void KeyboardTrackingRows()
-{
-    QTest::addColumn<bool>("tracking");
-    QTest::newRow("keyboard tracking") << true;
-    QTest::newRow("no keyboard tracking") << false;
-}
-
-/// Counts the presses of one key that a widget gets, its children's unused ones included.
-class KeyCounter : public QObject
-{
-public:
-    KeyCounter(QObject* watched, Qt::Key key)
-        : m_key(key)
-    {
-        watched->installEventFilter(this);
-    }
-    int Count() const { return m_count; }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == m_key) {
-            ++m_count;
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    Qt::Key m_key;
-    int m_count = 0;
-};
-
-} // namespace
 
 void TestSpinBoxEx::returnCommitsTypedValueOnce_data()
 {
@@ -261,123 +213,6 @@ void TestSpinBoxEx::setValueNeverCommits()
     QTest::keyClick(m_box, Qt::Key_Return);
     QCOMPARE(m_commits, 0);
     m_window->FocusElsewhere();
-    QCOMPARE(m_commits, 0);
-}
-
-void TestSpinBoxEx::escapeTakesTypedTextBack()
-{
-    m_box->setKeyboardTracking(false);
-    const KeyCounter atWindow(m_window.get(), Qt::Key_Escape);
-    const QString before = m_box->text();
-    Type(QStringLiteral("12"));
-    QTest::keyClick(m_box, Qt::Key_Escape);
-    QCOMPARE(m_box->text(), before);
-    QCOMPARE(atWindow.Count(), 0);
-
-    m_window->FocusElsewhere();
-    QCOMPARE(Value(), 5.0);
-    QCOMPARE(m_commits, 0);
-}
-
-void TestSpinBoxEx::escapeIsTheWindowsWithKeyboardTracking()
-{
-    m_box->setKeyboardTracking(true);
-    const KeyCounter atWindow(m_window.get(), Qt::Key_Escape);
-    Type(QStringLiteral("12"));
-    QTest::keyClick(m_box, Qt::Key_Escape);
-    QCOMPARE(Value(), 12.0);
-    QCOMPARE(atWindow.Count(), 1);
-}
-
-void TestSpinBoxEx::escapeBringsTheSpecialValueTextBack()
-{
-    m_box->setKeyboardTracking(false);
-    m_box->setSpecialValueText(QStringLiteral("automatic"));
-    SetValue(0);
-    QCOMPARE(m_box->text(), QStringLiteral("automatic"));
-    Type(QStringLiteral("12"));
-    QTest::keyClick(m_box, Qt::Key_Escape);
-    QCOMPARE(m_box->text(), QStringLiteral("automatic"));
-}
-
-void TestSpinBoxEx::escapeWithNothingToTakeBackReachesTheWindow()
-{
-    m_box->setKeyboardTracking(false);
-    const KeyCounter atWindow(m_window.get(), Qt::Key_Escape);
-    QTest::keyClick(m_box, Qt::Key_Escape);
-    QCOMPARE(atWindow.Count(), 1);
-
-    Type(QStringLiteral("12"));
-    Type(m_box->property("cleanText").toString());
-    QTest::keyClick(m_box, Qt::Key_Escape);
-    QTest::keyClick(m_box, Qt::Key_Escape);
-    QCOMPARE(atWindow.Count(), 2);
-}
-
-void TestSpinBoxEx::undoReachesTheApplication_data()
-{
-    QTest::addColumn<QKeySequence::StandardKey>("key");
-    QTest::addColumn<QString>("before");
-    for (const char* before : {"nothing", "step", "set", "Return", "focus away and back", "Escape"}) {
-        QTest::addRow("undo after %s", before) << QKeySequence::Undo << QString::fromLatin1(before);
-        QTest::addRow("redo after %s", before) << QKeySequence::Redo << QString::fromLatin1(before);
-    }
-}
-
-void TestSpinBoxEx::undoReachesTheApplication()
-{
-    QFETCH(QKeySequence::StandardKey, key);
-    QFETCH(QString, before);
-    m_box->setKeyboardTracking(false);
-    int triggered = 0;
-    QAction action;
-    action.setShortcut(QKeySequence(key));
-    connect(&action, &QAction::triggered, this, [&triggered] { ++triggered; });
-    m_window->addAction(&action);
-
-    if (before == QLatin1String("step")) {
-        QTest::keyClick(m_box, Qt::Key_Up);
-    } else if (before == QLatin1String("set")) {
-        SetValue(9);
-    } else if (before != QLatin1String("nothing")) {
-        Type(QStringLiteral("12"));
-        if (before == QLatin1String("Return")) {
-            QTest::keyClick(m_box, Qt::Key_Return);
-        } else if (before == QLatin1String("Escape")) {
-            QTest::keyClick(m_box, Qt::Key_Escape);
-        } else {
-            m_window->FocusElsewhere();
-            QVERIFY(Focus(m_box));
-        }
-    }
-    QTest::keySequence(m_box, QKeySequence(key));
-    QCOMPARE(triggered, 1);
-}
-
-void TestSpinBoxEx::undoTakesTypedTextBack_data()
-{
-    KeyboardTrackingRows();
-}
-
-void TestSpinBoxEx::undoTakesTypedTextBack()
-{
-    QFETCH(bool, tracking);
-    m_box->setKeyboardTracking(tracking);
-    int triggered = 0;
-    QAction action;
-    action.setShortcut(QKeySequence::Undo);
-    connect(&action, &QAction::triggered, this, [&triggered] { ++triggered; });
-    m_window->addAction(&action);
-
-    const QString before = m_box->text();
-    Type(QStringLiteral("12"));
-    QTest::keySequence(m_box, QKeySequence::Undo);
-    QCOMPARE(triggered, 0);
-    QCOMPARE(m_box->text(), before);
-    QTest::keySequence(m_box, QKeySequence::Undo);
-    QCOMPARE(triggered, 1);
-    m_window->FocusElsewhere();
-    QCOMPARE(Value(), 5.0);
     QCOMPARE(m_commits, 0);
 }
 

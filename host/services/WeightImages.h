@@ -1,0 +1,79 @@
+#pragma once
+
+#include "host/scene/SceneEdit.h"
+#include "plugin/services/SoftClothRecords.h"
+
+#include <MVPluginQt/Result.h>
+
+#include <QString>
+
+namespace Host {
+
+class HostApplication;
+
+/// The edits of weight images. Each that succeeds is one undo step; 1 means that nothing had to be done.
+///
+/// What is refused for its content is stored all the same, as a step marked as refused: whoever asked for it tells the
+/// user and then takes it back.
+class WeightImages
+{
+public:
+    /// More moving vertices than this are too many for a smooth simulation.
+    static constexpr int mostMovingVertices = 20000;
+
+    explicit WeightImages(HostApplication& host)
+        : m_host(host)
+    {
+    }
+
+    /// Links the image file \p path without brightness or contrast, and makes the material soft cloth and the object
+    /// one with soft cloth physics.
+    /// \return 0; 1 when more than mostMovingVertices move, which is for the user to decide; 0x80000006 when none
+    /// moves;
+    ///         another failure when the file cannot be read. After all but 0 there is one step to take back.
+    BF::Result Load(const ClothAddress& address, const QString& path);
+    BF::Result Delete(const ClothAddress& address);
+    /// Puts the linked file's content into the material and forgets the file.
+    BF::Result Embed(const ClothAddress& address);
+
+    /// Sets brightness and contrast, from -100 to 100 each. Writes that are not final become one step together with
+    /// the next final one.
+    /// \return 0; 0x80000006 when no vertex moves any more, and there is one step to take back; another failure when
+    ///         there is no image that can be read, and nothing was done
+    BF::Result Adjust(const ClothAddress& address, const MV::WeightImageAdjust& adjust, bool isFinal);
+
+    /// Puts \p bytes in place of an embedded image, unless they are no image or leave no vertex moving.
+    BF::Result ReplaceEmbedded(const ClothAddress& address, const QByteArray& bytes);
+
+    /// Writes the image: as it came when nothing is adjusted and the suffix fits, else as it looks, in gray, in the
+    /// format of the suffix (PNG without one). The scene does not change.
+    /// \return 0, or 0x80000006 when it cannot be written
+    BF::Result Save(const ClothAddress& address, const QString& path);
+
+    /// True while brightness and contrast are what the caller last set: between a write that is not final and the
+    /// next final one, unless something was refused or undone.
+    bool IsCallersAdjust(const ClothAddress& address) const;
+    /// The next write begins a step of its own.
+    void EndAdjusting() { m_adjusting = {}; }
+
+    /// Leaves a step that changes nothing, for a refusal of which there is nothing else to take back.
+    void PushRefusal(const QString& text);
+
+private:
+    struct Adjusting
+    {
+        ClothAddress address;
+        int run = SceneEdit::noRun;
+        bool wasRefused = false;
+    };
+
+    int CountMoving(const ClothAddress& address, const WeightImage& weight, QString& error);
+    BF::Result Push(const ClothAddress& address, const ClothState& cloth, const QString& text);
+    QByteArray EncodeForSaving(const WeightImage& weight, const QString& path, QString& error);
+
+    HostApplication& m_host;
+    Adjusting m_adjusting;
+    int m_lastRun = SceneEdit::noRun;
+};
+
+} // namespace Host

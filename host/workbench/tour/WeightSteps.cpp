@@ -1,0 +1,124 @@
+#include "host/workbench/tour/TourHands.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QSpinBox>
+#include <QTableWidget>
+
+namespace Host {
+
+namespace {
+
+constexpr const char* dialogForm = "SoftClothMaterialDlg";
+constexpr const char* listName = "qtMaterialListWidget";
+constexpr int newBrightness = 20;
+
+QString OpenDialog(TourHands& hands)
+{
+    // Where several materials could become soft cloth, the dialog is open already.
+    if (!hands.Find<QWidget>(dialogForm)->isVisible()) {
+        const QString problem = hands.Click("qtPaintPushButton");
+        if (!problem.isEmpty()) {
+            return problem;
+        }
+    }
+    return hands.Find<QListWidget>(listName)->count() > 0 ? QString() : QStringLiteral("the list is empty");
+}
+
+QString ChooseMaterial(TourHands& hands)
+{
+    auto& list = *hands.Find<QListWidget>(listName);
+    TourHands::ClickRow(list, list.count() - 1);
+    return list.currentRow() == list.count() - 1 ? QString() : QStringLiteral("the last material is not chosen");
+}
+
+QString LoadImage(TourHands& hands)
+{
+    const QString path = hands.DemoFile(QStringLiteral("weights-hanging.png"));
+    hands.App().Answers().AddFile(path);
+    const QString problem = hands.Click("qtOpenFilePushButton", dialogForm);
+    if (!problem.isEmpty()) {
+        return problem;
+    }
+    const ClothState* cloth = hands.EditedCloth();
+    return cloth && cloth->weight.image.filePath == path ? hands.CheckCalled("LoadWeightImage")
+                                                         : QStringLiteral("the material has no weight image");
+}
+
+QString EmbedImage(TourHands& hands)
+{
+    const QString problem = hands.Click("qtEmbedTexturePushButton");
+    if (!problem.isEmpty()) {
+        return problem;
+    }
+    const WeightImage& weight = hands.EditedCloth()->weight;
+    return weight.image.filePath.isEmpty() && !weight.IsNone() ? QString()
+                                                               : QStringLiteral("the image is not embedded");
+}
+
+QString ChangeBrightness(TourHands& hands)
+{
+    auto* box = hands.Find<QWidget>("qtBrightnessCombospinbox")->findChild<QSpinBox*>();
+    if (!box->isEnabled()) {
+        return QStringLiteral("brightness is disabled");
+    }
+    TourHands::Type(*box, QString::number(newBrightness));
+    return TourHands::CheckNumber(QStringLiteral("the host's brightness"), hands.EditedCloth()->weight.brightness,
+                                  newBrightness);
+}
+
+/// Takes the tick of the first material away and confirms.
+QString NarrowTable(TourHands& hands)
+{
+    auto& list = *hands.Find<QListWidget>(listName);
+    const int before = list.count();
+    if (before < 2) {
+        return {}; // The only material is the one that the tour works with.
+    }
+    const QString problem = hands.WithModalWindow<QDialog>(
+        [&hands] { return hands.Click("qtShowMaterialTableButton"); },
+        [&hands](QDialog& table) {
+            auto* rows = table.findChild<QTableWidget*>();
+            auto* box = rows->cellWidget(0, 0)->findChild<QCheckBox*>();
+            if (!box->isChecked()) {
+                return QStringLiteral("the first material takes no part");
+            }
+            box->click();
+            if (!hands.TakePictures()) {
+                return QStringLiteral("no picture of the table");
+            }
+            table.findChild<QAbstractButton*>(QStringLiteral("qtConfirmPushButton"))->click();
+            return QString();
+        });
+    if (!problem.isEmpty()) {
+        return problem;
+    }
+    return list.count() == before - 1 ? hands.CheckCalled("SetMaterialSoftClothEnabled")
+                                      : QStringLiteral("the list shows %1 materials").arg(list.count());
+}
+
+QString CloseDialog(TourHands& hands)
+{
+    const QString problem = hands.Click("qtPaintPushButton");
+    if (!problem.isEmpty()) {
+        return problem;
+    }
+    return hands.Find<QWidget>(dialogForm)->isVisible() ? QStringLiteral("the dialog stays open") : QString();
+}
+
+} // namespace
+
+std::vector<TourStep> WeightSteps(TourHands& hands)
+{
+    return {
+        {"dialog-opened", [&hands] { return OpenDialog(hands); }},
+        {"material-chosen", [&hands] { return ChooseMaterial(hands); }},
+        {"weight-image-loaded", [&hands] { return LoadImage(hands); }},
+        {"weight-image-embedded", [&hands] { return EmbedImage(hands); }},
+        {"brightness-changed", [&hands] { return ChangeBrightness(hands); }},
+        {"table-narrowed", [&hands] { return NarrowTable(hands); }},
+        {"dialog-closed", [&hands] { return CloseDialog(hands); }},
+    };
+}
+
+} // namespace Host

@@ -1,0 +1,377 @@
+#include "preset/SoftClothPresetSection.h"
+
+#include "material/SoftClothMaterialDlg.h"
+#include "plugin/HostCodes.h"
+#include "plugin/MessageBox.h"
+#include "plugin/PanelForm.h"
+#include "plugin/PhysicsSoftClothPlugin.h"
+#include "plugin/services/EditService.h"
+#include "plugin/services/HotKeyService.h"
+#include "plugin/services/MoviraInterface.h"
+#include "plugin/services/SceneService.h"
+#include "plugin/services/SoftClothService.h"
+#include "plugin/services/UiService.h"
+#include "preset/PresetGallery.h"
+#include "sections/SoftClothCollisionSection.h"
+#include "sections/SoftClothPropertySection.h"
+#include "sections/WidgetAccess.h"
+
+#include <MVPluginQt/EventSender.h>
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+
+namespace MV {
+
+namespace {
+
+constexpr int presetFolder = 3;
+constexpr int unconvertibleKind = 14;
+
+/// Types whose objects are not turned into rigid bodies and back.
+bool IsUnconvertibleType(quint32 type)
+{
+    return type == 1 || type == 2 || type == 3;
+}
+
+} // namespace
+
+CSoftClothPresetSection::CSoftClothPresetSection(CPhysicsSoftClothPlugin* plugin)
+    : QWidget(plugin)
+    , m_plugin(plugin)
+{
+    hide();
+}
+
+CSoftClothPresetSection::~CSoftClothPresetSection() = default;
+
+BF::Result CSoftClothPresetSection::Init(const QString& /*pluginPath*/, const QString& resourceBase,
+                                         CMoviraInterface* host)
+{
+    if (!host) {
+        return BF::Results::InvalidArgument;
+    }
+    m_host = host;
+    const BF::Result built = BuildPanelForm(QStringLiteral("SoftClothPreset"), this, m_ui, resourceBase, host);
+    if (built.IsFailure()) {
+        return built;
+    }
+    SetSectionWidgets(m_ui.expandButton, m_ui.sectionGroupBox);
+    RegisterHotKeys();
+    ConnectWidgets();
+    FillGallery();
+    if (CEventSender* events = host->GetEventSender()) {
+        connect(events, &CEventSender::PhysicsSoftClothMultiMaterialsDetected, this,
+                &CSoftClothPresetSection::PhysicsSoftClothMultiMaterialsDetected);
+    }
+    return BF::Results::Success;
+}
+
+void CSoftClothPresetSection::RegisterHotKeys()
+{
+    // The second note names another kind of section; translators have it under that name.
+    m_hotKeys = m_host->GetHotKeyService()->RegisterSectionHotKeys(
+        {tr("[Hot Key] Modify", "Modify Panel hot key").toStdWString(),
+         tr("[Hot Key] Physics", "LensFlare section hot key").toStdWString()},
+        L"MVSoftClothPresetSection");
+}
+
+void CSoftClothPresetSection::ConnectWidgets()
+{
+    using Section = CSoftClothPresetSection;
+    const auto connectToggled = [this](QCheckBox* box, void (Section::*handler)()) {
+        if (box) {
+            connect(box, &QCheckBox::toggled, this, handler);
+        }
+    };
+    connectToggled(m_ui.activePhysicsCheckBox, &Section::OnClickActivePhysicsCheckBox);
+    connectToggled(m_ui.useWorldGravityCheckBox, &Section::OnClickUseWorldGravityCheckBox);
+    connectToggled(m_ui.affectAllMaterialsCheckBox, &Section::OnClickAffectAllMaterialsCheckBox);
+    ConnectClicked(m_ui.openFilePushButton, this, &Section::OnClickOpenFilePushButton);
+    ConnectClicked(m_ui.saveFilePushButton, this, &Section::OnClickSaveFilePushButton);
+    ConnectClicked(m_ui.paintPushButton, this, &Section::OnClickPaintPushButton);
+
+    if (IsFamilyA()) {
+        ConnectClicked(m_ui.rigidBodyRadioButton, this, &Section::ConvertToRigidBody);
+    } else if (HasAnyBit(GetCurrentAp(), ECompatibleApp::FamilyB)) {
+        for (QWidget* button : {m_ui.rigidBodyRadioButton, m_ui.softClothRadioButton}) {
+            if (button) {
+                button->hide();
+            }
+        }
+    }
+}
+
+void CSoftClothPresetSection::FillGallery()
+{
+    if (!m_ui.presetTabWidget) {
+        return;
+    }
+    std::wstring folder;
+    const BF::Result known = Scene().GetDataFolderPath(folder, presetFolder);
+    // An empty root gives an empty gallery; the section works without.
+    FillPresetGallery(known.IsFailure() ? QString()
+                                        : QString::fromStdWString(folder) + QLatin1String("PhysicsSoftPreset"),
+                      *m_ui.presetTabWidget);
+    const auto lists = m_ui.presetTabWidget->findChildren<QListWidget*>();
+    for (QListWidget* list : lists) {
+        connect(list, &QListWidget::itemDoubleClicked, this,
+                [this, list] { OnChangeCurrentItemOfPresetContentListWidget(list); });
+    }
+}
+
+CSceneService& CSoftClothPresetSection::Scene() const
+{
+    return *m_host->GetSceneService();
+}
+
+CEditService& CSoftClothPresetSection::Edit() const
+{
+    return *m_host->GetEditService();
+}
+
+CUiService& CSoftClothPresetSection::Ui() const
+{
+    return *m_host->GetUiService();
+}
+
+SoftClothSelection& CSoftClothPresetSection::Selection() const
+{
+    return m_plugin->Selection();
+}
+
+bool CSoftClothPresetSection::IsFamilyA() const
+{
+    return HasAnyBit(GetCurrentAp(), ECompatibleApp::FamilyA);
+}
+
+BF::Result CSoftClothPresetSection::UpdateUi(bool sameObject)
+{
+    if (!m_host) {
+        return BF::Results::InvalidArgument;
+    }
+    const CSignalBlocker silent{m_ui.activePhysicsCheckBox, m_ui.softClothRadioButton};
+    SetChecked(m_ui.activePhysicsCheckBox, Selection().softClothActive);
+    SetChecked(m_ui.softClothRadioButton, true);
+
+    const SoftClothSelection& shown = Selection();
+    bool active = false;
+    if (shown.softClothActive && shown.mesh != 0 && shown.material != 0) {
+        BF::Result known = EnableRadioButtons();
+        if (!known.IsFailure()) {
+            known = Scene().IsSoftClothActive(shown.object, shown.mesh, shown.material, active);
+        }
+        if (known.IsFailure()) {
+            return known;
+        }
+    }
+    if (!active) {
+        EnableUi(false);
+        return BF::Results::NothingDone;
+    }
+    bool gravity = false;
+    const BF::Result gravityKnown =
+        Scene().GetUseGlobalGravity(shown.object, shown.mesh, shown.material, gravity, shown.affectAllMaterials);
+    if (gravityKnown.IsFailure()) {
+        return gravityKnown;
+    }
+    SetChecked(m_ui.useWorldGravityCheckBox, gravity);
+    ShowAffectAllMaterials();
+    if (!sameObject && m_ui.presetTabWidget) {
+        const CSignalBlocker silentTabs{m_ui.presetTabWidget};
+        m_ui.presetTabWidget->setCurrentIndex(0);
+    }
+    return BF::Results::Success;
+}
+
+/// The choice between rigid body and soft cloth, as far as the selected object has it.
+BF::Result CSoftClothPresetSection::EnableRadioButtons()
+{
+    if (!IsFamilyA()) {
+        return BF::Results::Success;
+    }
+    int kind = 0;
+    const BF::Result known = Scene().GetObjectKind(Selection().object, kind);
+    if (known.IsFailure()) {
+        return known;
+    }
+    const bool enable = !IsUnconvertibleType(Selection().objectType) && kind != unconvertibleKind;
+    EnableWidget(m_ui.rigidBodyRadioButton, enable);
+    EnableWidget(m_ui.softClothRadioButton, enable);
+    return BF::Results::Success;
+}
+
+void CSoftClothPresetSection::ShowAffectAllMaterials()
+{
+    EnableWidget(m_ui.affectAllMaterialsCheckBox, MaterialCount() >= 2);
+    const CSignalBlocker silent{m_ui.affectAllMaterialsCheckBox};
+    SetChecked(m_ui.affectAllMaterialsCheckBox, Selection().affectAllMaterials);
+}
+
+void CSoftClothPresetSection::EnableUi(bool enable)
+{
+    if (IsFamilyA()) {
+        EnableWidget(m_ui.rigidBodyRadioButton, enable);
+        EnableWidget(m_ui.softClothRadioButton, enable);
+    }
+    for (QWidget* widget : std::initializer_list<QWidget*>{
+             m_ui.openFilePushButton, m_ui.saveFilePushButton, m_ui.useWorldGravityCheckBox,
+             m_ui.affectAllMaterialsCheckBox, m_ui.softPresetGroupBox, m_ui.paintPushButton}) {
+        EnableWidget(widget, enable);
+    }
+}
+
+int CSoftClothPresetSection::MaterialCount() const
+{
+    const CSoftClothMaterialDlg* dialog = m_plugin->MaterialDlg();
+    return dialog ? dialog->MaterialCount() : 0;
+}
+
+void CSoftClothPresetSection::OnClickActivePhysicsCheckBox()
+{
+    const bool activate = IsChecked(m_ui.activePhysicsCheckBox);
+    Selection().softClothActive = activate;
+    if (activate && !MayBecomeSoftCloth()) {
+        return;
+    }
+    // The write can send events that refresh the whole panel: from here on the selection says what holds.
+    Edit().SetPhysicsActive(Selection().object, softClothPhysics, Selection().softClothActive, true, true);
+    m_plugin->EnableAll(Selection().softClothActive);
+    if (Selection().softClothActive) {
+        RefreshAfterSwitchOn();
+    } else if (IsWeightMapMode()) {
+        Ui().SetDialogMode(EDialogMode::None);
+    }
+}
+
+/// Makes sure that the selected material is soft cloth. \return false when the physics is not to be switched on
+bool CSoftClothPresetSection::MayBecomeSoftCloth()
+{
+    const SoftClothSelection& shown = Selection();
+    bool active = false;
+    Scene().IsSoftClothActive(shown.object, shown.mesh, shown.material, active);
+    if (active) {
+        return true;
+    }
+    switch (MaterialCount()) {
+    case 0:
+        RefuseSoftCloth();
+        return false;
+    case 1:
+        m_host->GetSoftClothService()->ApplySingleMaterialSoftCloth(shown.object, shown.mesh, shown.material);
+        return true;
+    default:
+        ConfirmMultipleMaterials();
+        return false;
+    }
+}
+
+void CSoftClothPresetSection::RefuseSoftCloth()
+{
+    Selection().softClothActive = false;
+    // Not silent: the box going off switches the physics off as well.
+    SetChecked(m_ui.activePhysicsCheckBox, false);
+    m_plugin->EnableAll(false);
+    ShowMessage(tr("This object does not have any valid material enabling to create soft cloth."));
+}
+
+void CSoftClothPresetSection::RefreshAfterSwitchOn()
+{
+    UpdateUi(true);
+    if (CSoftClothMaterialDlg* dialog = m_plugin->MaterialDlg()) {
+        dialog->UpdateUi();
+    }
+    if (CSoftClothPropertySection* property = m_plugin->PropertySection()) {
+        property->UpdateUi();
+    }
+    if (CSoftClothCollisionSection* collision = m_plugin->CollisionSection()) {
+        collision->UpdateUi();
+    }
+}
+
+BF::Result CSoftClothPresetSection::ConfirmMultipleMaterials()
+{
+    Selection().softClothActive = false;
+    {
+        const CSignalBlocker silent{m_ui.activePhysicsCheckBox};
+        SetChecked(m_ui.activePhysicsCheckBox, false);
+    }
+    m_plugin->EnableAll(false);
+    const QPointer<CSoftClothPresetSection> self(this);
+    const bool confirmed = AskOkOrCancel(
+        *m_host, tr("This object has multiple materials.\n Please select a material and load a gray map image."),
+        tr("[Physics Soft Cloth Section] Movira 6", "Message Title"), this);
+    if (!confirmed) {
+        return BF::Results::Cancelled;
+    }
+    if (!self) {
+        return BF::Results::Success;
+    }
+    EnableUi(false);
+    if (CSoftClothPropertySection* property = m_plugin->PropertySection()) {
+        property->EnableUi(false);
+    }
+    if (CSoftClothCollisionSection* collision = m_plugin->CollisionSection()) {
+        collision->EnableSection(false);
+    }
+    if (!IsWeightMapMode()) {
+        Ui().SetDialogMode(EDialogMode::WeightMap);
+    }
+    return BF::Results::Success;
+}
+
+void CSoftClothPresetSection::PhysicsSoftClothMultiMaterialsDetected(BFHANDLE hObject)
+{
+    CMoviraInterface* host = m_host;
+    if (ConfirmMultipleMaterials() == BF::Results::Cancelled) {
+        host->GetEditService()->CancelMultiMaterialSoftCloth(hObject);
+    }
+}
+
+bool CSoftClothPresetSection::IsWeightMapMode() const
+{
+    return Scene().GetDialogMode() == EDialogMode::WeightMap;
+}
+
+void CSoftClothPresetSection::OnClickPaintPushButton()
+{
+    Ui().SetDialogMode(IsWeightMapMode() ? EDialogMode::None : EDialogMode::WeightMap);
+}
+
+void CSoftClothPresetSection::ConvertToRigidBody()
+{
+    constexpr int physicsPage = 4;
+    constexpr int physicsOrder = 6;
+    constexpr int physicsFlags = 64;
+    Edit().ConvertToRigidBody(Scene().GetSelectedObject(0));
+    Ui().ShowPanelPage(physicsPage, physicsOrder, physicsFlags);
+}
+
+void CSoftClothPresetSection::OnClickUseWorldGravityCheckBox()
+{
+    WriteGravity(IsChecked(m_ui.useWorldGravityCheckBox));
+}
+
+BF::Result CSoftClothPresetSection::WriteGravity(bool useGlobalGravity)
+{
+    const SoftClothSelection& shown = Selection();
+    return Edit().SetUseGlobalGravity(shown.object, shown.mesh, shown.material, useGlobalGravity,
+                                      shown.affectAllMaterials);
+}
+
+void CSoftClothPresetSection::OnClickAffectAllMaterialsCheckBox()
+{
+    Selection().affectAllMaterials = IsChecked(m_ui.affectAllMaterialsCheckBox);
+}
+
+void CSoftClothPresetSection::ShowMessage(const QString& text)
+{
+    ShowInformation(*m_host, text, tr("[Physics Soft Cloth Section] Movira 6", "Message Title"), this);
+}
+
+} // namespace MV

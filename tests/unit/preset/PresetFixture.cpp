@@ -1,0 +1,174 @@
+#include "tests/unit/preset/PresetFixture.h"
+
+#include "host/scene/Handles.h"
+#include "plugin/services/EditService.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <QtTest>
+
+PresetFixture::PresetFixture(MV::ECompatibleApp app)
+    : PresetFixture(app, [](const QString&) {})
+{
+}
+
+PresetFixture::PresetFixture(MV::ECompatibleApp app, const std::function<void(const QString&)>& fillFolder)
+    : plugin(std::make_unique<MV::CPhysicsSoftClothPlugin>())
+{
+    fillFolder(data.path());
+    host.SetMainWindow(&mainWindow);
+    host.SetDataFolder(data.path());
+    host.Answers().unattended = true;
+    plugin->SetCurrentApp(app);
+    if (plugin->Initialize(QStringLiteral(SOFTCLOTH_PLUGIN_FILE), QString(), &host).IsFailure()) {
+        qFatal("the plug-in object does not start");
+    }
+    section = plugin->findChild<MV::CSoftClothPresetSection*>();
+    if (section) {
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(section);
+        window.show();
+    }
+}
+
+PresetFixture::~PresetFixture() = default;
+
+Host::Object& PresetFixture::Add(Host::Object model)
+{
+    Host::Object& added = host.CurrentScene().AddObject(std::move(model));
+    host.Select({added.handle});
+    host.Journal().Clear();
+    return added;
+}
+
+Host::Object& PresetFixture::AddCloth(Host::Object model)
+{
+    Host::Object& added = Add(std::move(model));
+    host.SetSoftClothActive(added.handle, true);
+    host.Journal().Clear();
+    return added;
+}
+
+Host::ClothState& PresetFixture::Cloth(const Host::Object& object, int slot) const
+{
+    return host.CurrentScene().FindSlot(Host::Scene::SlotsOf(object).at(std::size_t(slot)))->cloth;
+}
+
+void PresetFixture::DisableMaterial(const Host::Object& object, int material)
+{
+    host.GetEditService()->SetMaterialSoftClothEnabled(object.materials.at(std::size_t(material)).id, false);
+    host.Journal().Clear();
+}
+
+QStringList PresetFixture::Take(const std::function<bool(const Host::JournalEntry&)>& isWanted)
+{
+    QStringList texts;
+    for (const Host::JournalEntry& entry : host.Journal().Entries()) {
+        if (entry.kind == Host::JournalEntry::Kind::Call && isWanted(entry)) {
+            texts.append(entry.ToString());
+        }
+    }
+    host.Journal().Clear();
+    return texts;
+}
+
+QStringList PresetFixture::Take()
+{
+    return Take([](const Host::JournalEntry& entry) { return entry.depth == 0; });
+}
+
+QStringList PresetFixture::TakeActions()
+{
+    return Take([](const Host::JournalEntry& entry) {
+        return entry.service != QLatin1String("Scene") && entry.service != QLatin1String("HotKey");
+    });
+}
+
+QString PresetFixture::Triple() const
+{
+    const MV::SoftClothSelection& selection = plugin->Selection();
+    const Host::JournalText text(host.CurrentScene());
+    return QStringList{text(selection.object), text(Host::ToHandle(selection.mesh)),
+                       text(Host::ToHandle(selection.material))}
+        .join(QLatin1String(", "));
+}
+
+QString PresetFixture::Call(const char* operation, const QStringList& arguments, const char* result) const
+{
+    return QStringLiteral("%1(%2) -> %3")
+        .arg(QLatin1String(operation), (QStringList{Triple()} + arguments).join(QLatin1String(", ")),
+             QLatin1String(result));
+}
+
+void PresetFixture::Click(const char* button) const
+{
+    auto* widget = Find<QAbstractButton>(button);
+    // A check box takes clicks on its indicator and text only, not on the empty rest of its row.
+    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, widget->height() / 2));
+}
+
+bool PresetFixture::IsEnabled(const char* name) const
+{
+    const auto* widget = Find<QWidget>(name);
+    return widget->isEnabledTo(widget->parentWidget());
+}
+
+bool PresetFixture::IsChecked(const char* name) const
+{
+    return Find<QAbstractButton>(name)->isChecked();
+}
+
+QListWidget& PresetFixture::List(int page) const
+{
+    return *Find<QTabWidget>("qtPresetTabWidget")->widget(page)->findChild<QListWidget*>();
+}
+
+void PresetFixture::Invoke(const char* slot) const
+{
+    if (!QMetaObject::invokeMethod(section, slot, Qt::DirectConnection)) {
+        qFatal("there is no slot %s", slot);
+    }
+}
+
+void PresetFixture::During(const char* operation, std::function<void()> action)
+{
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, [=](int index) {
+        if (host.Journal().Entries().at(index).operation == QLatin1String(operation)) {
+            QObject::disconnect(*connection);
+            action();
+        }
+    });
+}
+
+namespace Journal {
+
+namespace {
+
+QString Box(const QString& text, int buttons, int defaultButton, int answer)
+{
+    return QStringLiteral("ShowMessageBox(\"%1\", \"[Physics Soft Cloth Section] Movira 6\", "
+                          "MV::CSoftClothPresetSection, 2, %2, %3) -> %4")
+        .arg(text)
+        .arg(buttons)
+        .arg(defaultButton)
+        .arg(answer);
+}
+
+} // namespace
+
+QString Message(const QString& text)
+{
+    return Box(text, 0x400, 0, QMessageBox::Ok);
+}
+
+QString Question(int answer)
+{
+    return Box(
+        QStringLiteral("This object has multiple materials.\n Please select a material and load a gray map image."),
+        0x400400, 0x400, answer);
+}
+
+} // namespace Journal

@@ -1,0 +1,255 @@
+#include "sections/SoftClothCollisionSection.h"
+#include "sections/SoftClothPropertySection.h"
+#include "sections/SoftClothWindSection.h"
+#include "tests/support/OrdinaryUser.h"
+#include "tests/support/TestCase.h"
+#include "tests/support/UserDialogs.h"
+#include "tests/unit/preset/PresetFixture.h"
+
+#include <QSettings>
+#include <QStandardPaths>
+
+/// The three file dialogs of the section, as the user goes through them.
+class TestProfileDialogs : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dialogsAskForTheRightThing_data();
+    void dialogsAskForTheRightThing();
+    void failingFolderStillAsks();
+    void cancellingDoesNothing_data();
+    void cancellingDoesNothing();
+    void chosenProfileIsLoaded();
+    void vanishedProfileIsAnInvalidPath();
+    void profileIsSaved();
+    void savedNameGetsASuffix();
+    void savingOverAProfileReplacesItsKeys();
+    void missingSectionsAreNotSaved();
+    void unwritableTargetIsTold();
+    void savingAsksTheHostForThePropertyOnly();
+    void hostReadsItsOwnFile();
+    void cancelledHostFileIsPassedOnAsEmptyPath();
+    void pluginMayDieInsideTheDialog_data();
+    void pluginMayDieInsideTheDialog();
+
+private:
+    QTemporaryDir m_home;
+
+protected:
+    void SetUp() override { qputenv("HOME", m_home.path().toLocal8Bit()); }
+};
+
+namespace {
+
+struct DialogFixture : PresetFixture
+{
+    DialogFixture() { hero = &AddCloth(); }
+
+    void Choose(const char* button, const QString& path, const std::function<void()>& accepted = {})
+    {
+        host.Journal().Clear();
+        UserDialogs::ChooseFile([&] { Click(button); }, path, accepted);
+    }
+
+    Host::Object* hero = nullptr;
+};
+
+const QString defaultFolder = QStringLiteral("GetDefaultFolder");
+constexpr const char* openButton = "qtOpenFilePushButton";
+constexpr const char* saveButton = "qtSaveFilePushButton";
+
+} // namespace
+
+void TestProfileDialogs::dialogsAskForTheRightThing_data()
+{
+    QTest::addColumn<QByteArray>("slot");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("saves");
+    QTest::newRow("open") << QByteArray("OnClickOpenFilePushButton") << QStringLiteral("Load Soft Cloth Custom Profile")
+                          << false;
+    QTest::newRow("save") << QByteArray("OnClickSaveFilePushButton") << QStringLiteral("Save Soft Cloth Custom Profile")
+                          << true;
+    QTest::newRow("host's file") << QByteArray("OnClickLoadIniPushButton") << QStringLiteral("Load Soft Ini Profile")
+                                 << false;
+}
+
+void TestProfileDialogs::dialogsAskForTheRightThing()
+{
+    QFETCH(const QByteArray, slot);
+    QFETCH(const QString, title);
+    QFETCH(const bool, saves);
+    DialogFixture fixture;
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QVERIFY(QDir().mkpath(folder));
+    UserDialogs::WithFileDialog(
+        [&] { fixture.Invoke(slot); },
+        [&](QFileDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), title);
+            QCOMPARE(dialog.parentWidget(), fixture.section.data());
+            QCOMPARE(dialog.nameFilters(), QStringList{QStringLiteral("INI Files (*.ini)")});
+            QCOMPARE(dialog.directory().absolutePath(), folder);
+            QCOMPARE(dialog.acceptMode(), saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+            QCOMPARE(dialog.fileMode(), saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+            dialog.reject();
+        });
+    QCOMPARE(fixture.Take().first(), QStringLiteral("GetDefaultFolder(\"%1\", 72) -> 0").arg(folder));
+}
+
+void TestProfileDialogs::failingFolderStillAsks()
+{
+    DialogFixture fixture;
+    fixture.host.Faults().FailOperation(defaultFolder, BF::Results::ResourceFailure);
+    QVERIFY(UserDialogs::OpensDialog([&] { fixture.Click(openButton); }));
+}
+
+void TestProfileDialogs::cancellingDoesNothing_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("open") << QByteArray(openButton);
+    QTest::newRow("save") << QByteArray(saveButton);
+}
+
+void TestProfileDialogs::cancellingDoesNothing()
+{
+    QFETCH(const QByteArray, button);
+    DialogFixture fixture;
+    fixture.Choose(button, QString());
+    const QStringList calls = fixture.Take();
+    QCOMPARE(calls.size(), 1);
+    QVERIFY(calls.first().startsWith(defaultFolder));
+}
+
+void TestProfileDialogs::chosenProfileIsLoaded()
+{
+    DialogFixture fixture;
+    const QString path = Files::Write(fixture.Path(QStringLiteral("my profile.ini")), "[Property]\nMass=4\n");
+    fixture.Choose(openButton, path);
+    QCOMPARE(fixture.Cloth(*fixture.hero).property.mass, qint64(4));
+    const QStringList calls = fixture.Take();
+    QCOMPARE(calls.size(), 2);
+    QVERIFY(calls.at(1).startsWith(QLatin1String("SetSoftClothProperty")));
+}
+
+void TestProfileDialogs::vanishedProfileIsAnInvalidPath()
+{
+    DialogFixture fixture;
+    const QString path = Files::Write(fixture.Path(QStringLiteral("a.ini")), "[Property]\nMass=4\n");
+    fixture.Choose(openButton, path, [&] { QVERIFY(QFile::remove(path)); });
+    QCOMPARE(fixture.Take().mid(1), QStringList{Journal::Message(QStringLiteral("InValid File Path."))});
+}
+
+void TestProfileDialogs::profileIsSaved()
+{
+    DialogFixture fixture;
+    fixture.Cloth(*fixture.hero).property.mass = 6;
+    fixture.plugin->UpdateAllUIs(true);
+    const QString path = fixture.Path(QStringLiteral("new.ini"));
+    fixture.Choose(saveButton, path);
+    QSettings saved(path, QSettings::IniFormat);
+    QCOMPARE(saved.childGroups(), (QStringList{QStringLiteral("Collision"), QStringLiteral("Preset"),
+                                               QStringLiteral("Property"), QStringLiteral("Wind_Setting")}));
+    QCOMPARE(saved.value(QStringLiteral("Preset/Use_Global_Gravity")), QVariant(QStringLiteral("true")));
+    QCOMPARE(saved.value(QStringLiteral("Property/Mass")), QVariant(QStringLiteral("6")));
+    QCOMPARE(saved.allKeys().size(), 1 + 16 + 4 + 4);
+    QVERIFY(Files::Read(path).contains("\nExternal_Acceleration=0, 0, 0\n"));
+}
+
+void TestProfileDialogs::savedNameGetsASuffix()
+{
+    DialogFixture fixture;
+    fixture.Choose(saveButton, fixture.Path(QStringLiteral("bare")));
+    QVERIFY(QFileInfo(fixture.Path(QStringLiteral("bare.ini"))).isFile());
+}
+
+void TestProfileDialogs::savingOverAProfileReplacesItsKeys()
+{
+    DialogFixture fixture;
+    const QString path = Files::Write(fixture.Path(QStringLiteral("a.ini")),
+                                      "[Property]\nMass=99\nOwn=1\n[Ignored_Material_Name_List]\nBody=Skin, Hair\n");
+    fixture.Choose(saveButton, path);
+    QSettings saved(path, QSettings::IniFormat);
+    QCOMPARE(saved.value(QStringLiteral("Property/Mass")), QVariant(QStringLiteral("1")));
+    QCOMPARE(saved.value(QStringLiteral("Property/Own")), QVariant(QStringLiteral("1")));
+    QCOMPARE(saved.value(QStringLiteral("Ignored_Material_Name_List/Body")).toStringList(),
+             (QStringList{QStringLiteral("Skin"), QStringLiteral("Hair")}));
+}
+
+void TestProfileDialogs::missingSectionsAreNotSaved()
+{
+    DialogFixture fixture;
+    const QString path = Files::Write(fixture.Path(QStringLiteral("a.ini")), "[Wind_Setting]\nWind_Frequency=7\n");
+    delete fixture.plugin->WindSection();
+    delete fixture.plugin->CollisionSection();
+    fixture.Choose(saveButton, path);
+    QSettings saved(path, QSettings::IniFormat);
+    QCOMPARE(saved.value(QStringLiteral("Wind_Setting/Wind_Frequency")), QVariant(QStringLiteral("7")));
+    QCOMPARE(saved.childGroups(),
+             (QStringList{QStringLiteral("Preset"), QStringLiteral("Property"), QStringLiteral("Wind_Setting")}));
+}
+
+void TestProfileDialogs::unwritableTargetIsTold()
+{
+    DialogFixture fixture;
+    Files::OpenToAll(fixture.folder.path());
+    const QByteArray content = "[Property]\nMass=99\n";
+    const QString path = Files::Write(fixture.Path(QStringLiteral("a.ini")), content);
+    QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions(0x4444)));
+    {
+        const OrdinaryUser user;
+        fixture.Choose(saveButton, path);
+    }
+    QCOMPARE(fixture.Take().mid(1), QStringList{Journal::Message(QStringLiteral("File is Unwritable."))});
+    QCOMPARE(Files::Read(path), content);
+}
+
+void TestProfileDialogs::savingAsksTheHostForThePropertyOnly()
+{
+    DialogFixture fixture;
+    fixture.Choose(saveButton, fixture.Path(QStringLiteral("new.ini")));
+    const QStringList calls = fixture.Take();
+    QCOMPARE(calls.size(), 2);
+    QVERIFY(calls.at(1).startsWith(QLatin1String("GetSoftClothProperty")));
+}
+
+void TestProfileDialogs::hostReadsItsOwnFile()
+{
+    DialogFixture fixture;
+    const QString path = Files::Write(fixture.Path(QStringLiteral("host.ini")), "[property]\nmass=5\n");
+    fixture.host.Journal().Clear();
+    UserDialogs::ChooseFile([&] { fixture.Invoke("OnClickLoadIniPushButton"); }, path);
+    QCOMPARE(fixture.Take().mid(1), QStringList{QStringLiteral("LoadSoftIniProfile(\"%1\") -> 0").arg(path)});
+    QCOMPARE(fixture.Cloth(*fixture.hero).property.mass, qint64(5));
+}
+
+void TestProfileDialogs::cancelledHostFileIsPassedOnAsEmptyPath()
+{
+    DialogFixture fixture;
+    fixture.host.Journal().Clear();
+    UserDialogs::ChooseFile([&] { fixture.Invoke("OnClickLoadIniPushButton"); }, QString());
+    QCOMPARE(fixture.Take().mid(1), QStringList{QStringLiteral("LoadSoftIniProfile(\"\") -> 0x80000003")});
+}
+
+void TestProfileDialogs::pluginMayDieInsideTheDialog_data()
+{
+    QTest::addColumn<QByteArray>("slot");
+    for (const char* slot : {"OnClickOpenFilePushButton", "OnClickSaveFilePushButton", "OnClickLoadIniPushButton"}) {
+        QTest::newRow(slot) << QByteArray(slot);
+    }
+}
+
+void TestProfileDialogs::pluginMayDieInsideTheDialog()
+{
+    QFETCH(const QByteArray, slot);
+    DialogFixture fixture;
+    QTimer::singleShot(0, this, [&] {
+        QVERIFY(QApplication::activeModalWidget());
+        fixture.plugin.reset();
+    });
+    QMetaObject::invokeMethod(fixture.section, slot);
+    QVERIFY(!fixture.section);
+    QCOMPARE(fixture.TakeActions(), QStringList());
+}
+
+QTEST_MAIN(TestProfileDialogs)
+#include "tst_profile_dialogs.moc"
