@@ -2,8 +2,8 @@
 #include "host/import/ModelImport.h"
 #include "host/services/ImageEditor.h"
 #include "tests/support/Children.h"
+#include "tests/support/FileRefusal.h"
 #include "tests/support/Files.h"
-#include "tests/support/OrdinaryUser.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/SampleImages.h"
 #include "tests/support/SampleModels.h"
@@ -267,9 +267,8 @@ void TestWeightImagesInHost::badFileIsToldAndChangesNothing()
     panel.App().Journal().Clear();
 
     Files::OpenToAll(panel.folder.path());
-    QVERIFY(QFile::setPermissions(secret, {}));
     {
-        const OrdinaryUser user;
+        const FileRefusal refusal(secret, FileRefusal::Of::ReadingAndWriting);
         panel.Load(panel.Path(name));
     }
     const QStringList calls = TakeCalls(panel.App().Journal());

@@ -1,7 +1,8 @@
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
-#include "tests/support/OrdinaryUser.h"
+#include "tests/support/FileRefusal.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestCase.h"
 #include "tests/support/UserDialogs.h"
 #include "tests/unit/preset/PresetFixture.h"
@@ -194,9 +195,8 @@ void TestProfileDialogs::unwritableTargetIsTold()
     Files::OpenToAll(fixture.folder.path());
     const QByteArray content = "[Property]\nMass=99\n";
     const QString path = Files::Write(fixture.Path(QStringLiteral("a.ini")), content);
-    QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions(0x4444)));
     {
-        const OrdinaryUser user;
+        const FileRefusal refusal(path, FileRefusal::Of::Writing);
         fixture.Choose(saveButton, path);
     }
     QCOMPARE(fixture.Take().mid(1), QStringList{Journal::Message(QStringLiteral("File is Unwritable."))});

@@ -250,8 +250,10 @@ void TestSceneFileErrors::impossibleTargetIsRefused_data()
     QTest::newRow("folder") << QStringLiteral("folder") << true;
     QTest::newRow("missing folder") << QStringLiteral("nowhere/robe.scene") << false;
     QTest::newRow("under a file") << QStringLiteral("file/robe.scene") << false;
+#ifdef Q_OS_UNIX // Elsewhere a folder is not locked by its permissions, and the system has its own in other places.
     QTest::newRow("read-only folder") << QStringLiteral("locked/robe.scene") << false;
     QTest::newRow("system folder") << QStringLiteral("/proc/robe.scene") << false;
+#endif
     QTest::newRow("no name") << QString() << false;
 }
 
