@@ -19,4 +19,13 @@ export WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES='mscoree,mshtml='
 mkdir -p "$(dirname "$WINEPREFIX")"
 
+# Qt's test programs would tell a debugger otherwise.
+export QT_FORCE_STDERR_LOGGING=1
+# Where the platform without a display looks for fonts.
+export QT_QPA_FONTDIR='Z:\usr\share\fonts\truetype\dejavu'
+# Wine keeps variables of Qt to itself but for those that are meant for its programs.
+for variable in $(compgen -e QT_); do
+    export "WINE$variable=${!variable}"
+done
+
 exec wine "$@"

@@ -89,7 +89,15 @@ void TestPluginLibrary::metadataSectionIsByteForByteAsDescribed()
     expected += QByteArray::fromHex("02 7826") + iid;
     expected += QByteArray::fromHex("03 77") + className;
     expected += QByteArray::fromHex("ff");
-    QCOMPARE(LibraryFile(libraryFile).Section(".qtmetadata").toHex(' '), expected.toHex(' '));
+    QByteArray actual = LibraryFile(libraryFile).Section(".qtmetadata");
+#ifdef Q_OS_WIN
+    // There the assembler fills every section up to its alignment.
+    const int filling = actual.size() - expected.size();
+    QVERIFY(filling >= 0 && filling < 32);
+    QVERIFY(actual.endsWith(QByteArray(filling, '\0')));
+    actual.chop(filling);
+#endif
+    QCOMPARE(actual.toHex(' '), expected.toHex(' '));
 }
 
 void TestPluginLibrary::instanceIsCreatedOnceAndAgainAfterItsEnd()
