@@ -29,7 +29,7 @@ QStringList TakeOperations(Host::CallJournal& journal)
     return Take(journal, [](const Host::JournalEntry& entry) { return entry.operation; });
 }
 
-PanelFixture::PanelFixture(MV::ECompatibleApp app)
+PanelFixture::PanelFixture(MV::ECompatibleApp app, const QString& dataFolder)
     : m_panel(new Host::ModifyPanel)
     , m_plugin(m_host)
 {
@@ -37,6 +37,7 @@ PanelFixture::PanelFixture(MV::ECompatibleApp app)
     m_window.setCentralWidget(m_panel);
     m_window.resize(360, 700);
     m_host.SetMainWindow(&m_window);
+    m_host.SetDataFolder(dataFolder);
     m_host.Answers().unattended = true;
     if (!m_plugin.Start(QStringLiteral(SOFTCLOTH_PLUGIN_FILE), app)) {
         qFatal("%s", qPrintable(m_plugin.Error()));

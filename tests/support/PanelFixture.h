@@ -19,7 +19,8 @@ QStringList TakeOperations(Host::CallJournal& journal);
 class PanelFixture
 {
 public:
-    explicit PanelFixture(MV::ECompatibleApp app = MV::ECompatibleApp::FamilyA);
+    /// \param dataFolder  the host's data folder; empty for a host without one
+    explicit PanelFixture(MV::ECompatibleApp app = MV::ECompatibleApp::FamilyA, const QString& dataFolder = {});
     ~PanelFixture();
     Q_DISABLE_COPY_MOVE(PanelFixture)
 

@@ -4,7 +4,8 @@
 
 #include <functional>
 
-/// Deals with the file dialogs that the code under test opens, as a user would.
+/// Deals with the file dialogs that the code under test opens, as a user would. A dialog that stays open in spite of
+/// that is closed after some seconds, and the test fails.
 namespace UserDialogs {
 
 /// Runs \p trigger, lets \p use deal with the file dialog that it opens, and fails the test when none comes.

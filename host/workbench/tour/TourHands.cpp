@@ -48,7 +48,8 @@ bool TourHands::TakePictures()
     Settle();
     const QString stem =
         FileInFolder(QStringLiteral("%1-%2").arg(m_stepNumber, 2, 10, QLatin1Char('0')).arg(m_stepName));
-    bool saved = m_window.grab().save(stem + QLatin1String(".png"));
+    bool saved = m_window.grab().save(stem + QLatin1String(".png")) &&
+                 Find<QWidget>("modifyDock")->grab().save(stem + QLatin1String("-panel.png"));
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
         if (window != &m_window && window->isVisible()) {

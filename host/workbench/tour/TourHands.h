@@ -39,7 +39,7 @@ public:
 
     /// Begins a step, whose pictures bear \p name.
     void BeginStep(const char* name);
-    /// Writes a picture of every window that is open. \return false when that failed
+    /// Writes pictures of every window that is open and of the Modify panel alone. \return false when that failed
     bool TakePictures();
 
     /// Lets the windows lay themselves out and paint.

@@ -4,6 +4,8 @@
 #include "plugin/services/EditService.h"
 
 #include <QAbstractButton>
+#include <QBuffer>
+#include <QImage>
 #include <QMessageBox>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -141,6 +143,18 @@ void PresetFixture::During(const char* operation, std::function<void()> action)
             action();
         }
     });
+}
+
+QByteArray ImageBytes(const QSize& size, const char* format)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(qRgb(200, 40, 40));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format)) {
+        qFatal("no image of the format %s", format);
+    }
+    return bytes;
 }
 
 namespace Journal {

@@ -75,6 +75,9 @@ private:
     QStringList Take(const std::function<bool(const Host::JournalEntry&)>& isWanted);
 };
 
+/// An image of \p size, encoded.
+QByteArray ImageBytes(const QSize& size, const char* format = "PNG");
+
 /// The texts of the section's message boxes, as the journal has them.
 namespace Journal {
 

@@ -17,10 +17,12 @@ private Q_SLOTS:
     void gravityIsWrittenWhenClicked();
     void gravityIsWrittenWhenSetByCode();
     void gravityOfAllMaterialsIsOneUndoStep();
+    void failedGravityWriteIsNotTold();
     void affectAllMaterialsIsOnlyRemembered();
     void affectAllMaterialsGoesWithTheNextGravityWrite();
     void paintButtonTogglesTheWeightMaps();
     void paintButtonReplacesAnotherMode();
+    void failedModeChangeIsNotTold();
     void rigidBodyIsConvertedAndItsPageShown();
     void rigidBodyWithoutSelectionReachesTheHost();
     void rigidBodyIgnoresFailures();
@@ -91,6 +93,19 @@ void TestPresetOptions::gravityOfAllMaterialsIsOneUndoStep()
     QVERIFY(fixture.IsChecked("qtUseWorldGravityCheckBox"));
 }
 
+void TestPresetOptions::failedGravityWriteIsNotTold()
+{
+    PresetFixture fixture;
+    const Host::Object& hero = fixture.AddCloth();
+    fixture.host.Faults().FailOperation(QStringLiteral("SetUseGlobalGravity"), BF::Results::Refused);
+    fixture.Click("qtUseWorldGravityCheckBox");
+    QCOMPARE(fixture.Take(),
+             QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"), QStringLiteral("false")},
+                                      "0x80000006")});
+    QVERIFY(!fixture.IsChecked("qtUseWorldGravityCheckBox"));
+    QVERIFY(fixture.Cloth(hero).useGlobalGravity);
+}
+
 void TestPresetOptions::affectAllMaterialsIsOnlyRemembered()
 {
     PresetFixture fixture;
@@ -136,6 +151,16 @@ void TestPresetOptions::paintButtonReplacesAnotherMode()
     fixture.host.Journal().Clear();
     fixture.Click("qtPaintPushButton");
     QCOMPARE(fixture.Take().last(), QStringLiteral("SetDialogMode(25) -> 0"));
+}
+
+void TestPresetOptions::failedModeChangeIsNotTold()
+{
+    PresetFixture fixture;
+    fixture.AddCloth();
+    fixture.host.Faults().FailOperation(QStringLiteral("SetDialogMode"), BF::Results::Refused);
+    fixture.Click("qtPaintPushButton");
+    QCOMPARE(fixture.Take().last(), QStringLiteral("SetDialogMode(25) -> 0x80000006"));
+    QVERIFY(!fixture.plugin->MaterialDlg()->isVisible());
 }
 
 void TestPresetOptions::rigidBodyIsConvertedAndItsPageShown()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void kindIsNotAskedOutsideFamilyA();
     void refreshNeverEnables();
     void changedGravityIsWrittenOnce();
+    void selectionIsReadAgainAfterTheGravityWrite();
     void gravityIsAskedForWithAffectAllMaterials();
     void affectAllMaterialsNeedsTwoMaterials_data();
     void affectAllMaterialsNeedsTwoMaterials();
@@ -50,13 +51,15 @@ void TestPresetRefresh::enablingCoversAllButTheSwitch_data()
     QTest::newRow("family A") << MV::ECompatibleApp::FamilyA << true;
     QTest::newRow("both families") << MV::ECompatibleApp::Both << true;
     QTest::newRow("family B") << MV::ECompatibleApp::FamilyB << false;
+    QTest::newRow("neither") << MV::ECompatibleApp(0x8) << false;
 }
 
 void TestPresetRefresh::enablingCoversAllButTheSwitch()
 {
     QFETCH(const MV::ECompatibleApp, app);
     QFETCH(const bool, radioButtonsToo);
-    PresetFixture fixture(app);
+    PresetFixture fixture;
+    fixture.plugin->SetCurrentApp(app);
     for (const bool enable : {true, false}) {
         for (const char* name : radioButtons) {
             fixture.Find<QWidget>(name)->setEnabled(!enable);
@@ -241,6 +244,20 @@ void TestPresetRefresh::changedGravityIsWrittenOnce()
     QCOMPARE(refresh(),
              QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"), QStringLiteral("false")})});
     QCOMPARE(refresh(), QStringList());
+}
+
+void TestPresetRefresh::selectionIsReadAgainAfterTheGravityWrite()
+{
+    PresetFixture fixture;
+    const Host::Object& flag = fixture.AddCloth(SampleModels::Flag());
+    const Host::Object& hero = fixture.AddCloth();
+    QVERIFY(fixture.IsEnabled("qtAffectAllMaterialsCheckBox"));
+    fixture.Cloth(hero).useGlobalGravity = false;
+    // Inside the write that the changed box sets off, the host selects an object with a single material.
+    fixture.During("SetUseGlobalGravity", [&] { fixture.host.Select({flag.handle}); });
+    fixture.section->UpdateUi(true);
+    QCOMPARE(fixture.Selection().object, flag.handle);
+    QVERIFY(!fixture.IsEnabled("qtAffectAllMaterialsCheckBox"));
 }
 
 void TestPresetRefresh::gravityIsAskedForWithAffectAllMaterials()

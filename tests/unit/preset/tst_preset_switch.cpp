@@ -24,7 +24,9 @@ private Q_SLOTS:
     void missingDialogCountsAsNoMaterials();
     void severalMaterialsAreAskedAbout_data();
     void severalMaterialsAreAskedAbout();
+    void panelIsOffWhileTheUserIsAsked();
     void confirmationOpensTheWeightMaps();
+    void failedModeChangeIsNotExamined();
     void confirmationKeepsOpenWeightMaps();
     void switchingOffLeavesTheWeightMaps_data();
     void switchingOffLeavesTheWeightMaps();
@@ -230,6 +232,39 @@ void TestPresetSwitch::severalMaterialsAreAskedAbout()
     QVERIFY(!fixture.Selection().softClothActive);
     QVERIFY(!hero.state.softCloth);
     QVERIFY(!fixture.IsEnabled("qtSoftPresetGroupBox"));
+}
+
+void TestPresetSwitch::panelIsOffWhileTheUserIsAsked()
+{
+    PresetFixture fixture;
+    fixture.Add();
+    for (const char* name : {"qtSoftPresetGroupBox", "qtPaintPushButton"}) {
+        fixture.Find<QWidget>(name)->setEnabled(true);
+    }
+    bool asked = false;
+    fixture.During("ShowMessageBox", [&] {
+        asked = true;
+        QVERIFY(!fixture.Selection().softClothActive);
+        QVERIFY(!fixture.IsChecked(activeBox));
+        QVERIFY(!fixture.Find<QWidget>(activeBox)->signalsBlocked());
+        QVERIFY(!fixture.IsEnabled("qtSoftPresetGroupBox"));
+        QVERIFY(!fixture.IsEnabled("qtPaintPushButton"));
+        QVERIFY(!IsBodyEnabled(fixture.plugin->PropertySection()));
+    });
+    fixture.Click(activeBox);
+    QVERIFY(asked);
+}
+
+void TestPresetSwitch::failedModeChangeIsNotExamined()
+{
+    PresetFixture fixture;
+    fixture.Add();
+    fixture.host.Faults().FailOperation(QStringLiteral("SetDialogMode"), BF::Results::Refused);
+    fixture.host.Answers().AddButton(QMessageBox::Ok);
+    QCOMPARE(fixture.section->ConfirmMultipleMaterials(), BF::Results::Success);
+    QCOMPARE(fixture.Take(), (QStringList{Journal::Question(QMessageBox::Ok), getDialogMode.arg(0),
+                                          QStringLiteral("SetDialogMode(25) -> 0x80000006")}));
+    QVERIFY(!fixture.plugin->MaterialDlg()->isVisible());
 }
 
 void TestPresetSwitch::confirmationOpensTheWeightMaps()

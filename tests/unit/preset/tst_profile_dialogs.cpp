@@ -2,13 +2,16 @@
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
 #include "tests/support/FileRefusal.h"
-#include "tests/support/Files.h"
+#include "tests/support/FullDisk.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TestCase.h"
 #include "tests/support/UserDialogs.h"
 #include "tests/unit/preset/PresetFixture.h"
 
 #include <QSettings>
 #include <QStandardPaths>
+
+#include <optional>
 
 /// The three file dialogs of the section, as the user goes through them.
 class TestProfileDialogs : public TestCase
@@ -27,7 +30,9 @@ private Q_SLOTS:
     void savedNameGetsASuffix();
     void savingOverAProfileReplacesItsKeys();
     void missingSectionsAreNotSaved();
+    void unwritableTargetIsTold_data();
     void unwritableTargetIsTold();
+    void failedWriteIsTold();
     void savingAsksTheHostForThePropertyOnly();
     void hostReadsItsOwnFile();
     void cancelledHostFileIsPassedOnAsEmptyPath();
@@ -38,7 +43,12 @@ private:
     QTemporaryDir m_home;
 
 protected:
-    void SetUp() override { qputenv("HOME", m_home.path().toLocal8Bit()); }
+    void SetUp() override
+    {
+        // The file dialogs watch the folder, in one test as an ordinary user.
+        Files::OpenToAll(m_home.path());
+        qputenv("HOME", m_home.path().toLocal8Bit());
+    }
 };
 
 namespace {
@@ -189,17 +199,52 @@ void TestProfileDialogs::missingSectionsAreNotSaved()
              (QStringList{QStringLiteral("Preset"), QStringLiteral("Property"), QStringLiteral("Wind_Setting")}));
 }
 
+void TestProfileDialogs::unwritableTargetIsTold_data()
+{
+    QTest::addColumn<int>("file");
+    QTest::addColumn<int>("folder");
+    QTest::newRow("read-only file") << 0x4444 << 0x7777;
+#ifdef Q_OS_UNIX // On Windows a folder takes new files whatever its attribute says.
+    QTest::newRow("read-only folder") << 0x6666 << 0x5555;
+#endif
+}
+
 void TestProfileDialogs::unwritableTargetIsTold()
 {
+    QFETCH(const int, file);
+    QFETCH(const int, folder);
     DialogFixture fixture;
     Files::OpenToAll(fixture.folder.path());
     const QByteArray content = "[Property]\nMass=99\n";
-    const QString path = Files::Write(fixture.Path(QStringLiteral("a.ini")), content);
+    const QString path = Files::Write(fixture.Path(QStringLiteral("folder/a.ini")), content);
+    QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions(file)));
+    QVERIFY(QFile::setPermissions(QFileInfo(path).path(), QFileDevice::Permissions(folder)));
     {
-        const FileRefusal refusal(path, FileRefusal::Of::Writing);
+        const OrdinaryUser user;
         fixture.Choose(saveButton, path);
     }
-    QCOMPARE(fixture.Take().mid(1), QStringList{Journal::Message(QStringLiteral("File is Unwritable."))});
+    Files::OpenToAll(QFileInfo(path).path());
+    QCOMPARE(fixture.TakeActions(), QStringList{Journal::Message(QStringLiteral("File is Unwritable."))});
+    QCOMPARE(Files::Read(path), content);
+}
+
+void TestProfileDialogs::failedWriteIsTold()
+{
+    DialogFixture fixture;
+    const QByteArray content = "[Property]\nMass=99\n";
+    const QString path = Files::Write(fixture.Path(QStringLiteral("a.ini")), content);
+    {
+#ifdef Q_OS_UNIX
+        // The disk fills up after the file was chosen, and before all is written.
+        std::optional<FullDisk> full;
+        fixture.Choose(saveButton, path, [&full] { full.emplace(200); });
+#else
+        // Another program takes the file for itself after it was chosen.
+        std::optional<FileRefusal> refusal;
+        fixture.Choose(saveButton, path, [&] { refusal.emplace(path, FileRefusal::Of::Writing); });
+#endif
+    }
+    QCOMPARE(fixture.TakeActions(), QStringList{Journal::Message(QStringLiteral("File is Unwritable."))});
     QCOMPARE(Files::Read(path), content);
 }
 

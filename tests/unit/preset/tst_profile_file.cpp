@@ -1,25 +1,22 @@
-#include "preset/ProfileFile.h"
 #include "tests/support/FileRefusal.h"
 #include "tests/support/Files.h"
-#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TestCase.h"
+#include "tests/unit/preset/NotedGroups.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
-#include <QRandomGenerator>
 #include <QSettings>
 #include <QTemporaryDir>
 
 #ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #endif
 
 Q_DECLARE_METATYPE(MV::EProfileProblem)
 
-/// The reading and writing of profiles, whatever their groups mean.
+using MV::EProfileProblem;
+
+/// The reading of profiles, whatever their groups mean.
 class TestProfileFile : public TestCase
 {
     Q_OBJECT
@@ -40,22 +37,6 @@ private Q_SLOTS:
     void changedFileIsReadAnew();
     void largeFileIsRead();
     void loadingWritesNothing();
-    void savedGroupsAreInTheFile();
-    void savingKeepsWhatItDoesNotWrite();
-    void savingOverNoiseGivesAProfile_data();
-    void savingOverNoiseGivesAProfile();
-    void anyNoiseCanBeSavedOver();
-    void missingFoldersAreMade();
-    void unwritableTargetIsTold_data();
-    void unwritableTargetIsTold();
-#ifdef Q_OS_UNIX
-    void failedWriteLeavesTheOldFile();
-    void fullDiskIsNoticed_data();
-    void fullDiskIsNoticed();
-#endif
-    void refusedSaveLeavesNoTrace();
-    void savingLeavesNoOtherFiles();
-    void savedFileKeepsItsPermissions();
 
 protected:
     void SetUp() override;
@@ -65,80 +46,21 @@ private:
     {
         return m_folder->filePath(QLatin1String(name));
     }
-    /// Groups that note their name when they are handled and save a key each.
-    std::vector<MV::ProfileGroup> Groups(const QString& failing = {});
-    MV::EProfileProblem Load(const QString& path)
+    EProfileProblem Load(const QString& path)
     {
-        return MV::LoadProfile(path, Groups(), m_result);
-    }
-    MV::EProfileProblem Save(const QString& path)
-    {
-        return MV::SaveProfile(path, Groups());
+        return MV::LoadProfile(path, m_groups.Make(), m_result);
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
-    QStringList m_handled;
+    NotedGroups m_groups;
     BF::Result m_result;
 };
-
-namespace {
-
-using MV::EProfileProblem;
-
-constexpr const char* savedText = "[Collision]\nkey=Collision\n\n[Preset]\nkey=Preset\n\n[Property]\nkey=Property\n\n"
-                                  "[Wind_Setting]\nkey=Wind_Setting\n";
-
-#ifdef Q_OS_UNIX // Elsewhere there is no limit that makes a disk look full.
-/// While it lives no file can grow beyond \p bytes, as on a disk that is full.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        rlimit small = m_limit;
-        small.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_limit{};
-    void (*m_handler)(int);
-};
-#endif
-
-} // namespace
 
 void TestProfileFile::SetUp()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    m_handled.clear();
+    m_groups.Take();
     m_result = BF::Results::Cancelled;
-}
-
-std::vector<MV::ProfileGroup> TestProfileFile::Groups(const QString& failing)
-{
-    std::vector<MV::ProfileGroup> groups;
-    for (const char* name : {"Preset", "Property", "Collision", "Wind_Setting"}) {
-        const QString group = QString::fromLatin1(name);
-        groups.push_back({group,
-                          [this, group, failing](QSettings& profile) {
-                              m_handled.append(profile.group());
-                              return group == failing ? BF::Results::Refused : BF::Results::Success;
-                          },
-                          [this, group](QSettings& profile) {
-                              m_handled.append(profile.group());
-                              profile.setValue(QStringLiteral("key"), group);
-                          }});
-    }
-    return groups;
 }
 
 void TestProfileFile::groupsAreLoadedInFixedOrder_data()
@@ -171,15 +93,15 @@ void TestProfileFile::groupsAreLoadedInFixedOrder()
     QFETCH(const QString, handled);
     QCOMPARE(Load(Files::Write(Path("a.ini"), content)), EProfileProblem::None);
     QCOMPARE(m_result, BF::Results::Success);
-    QCOMPARE(m_handled.join(QLatin1Char(' ')), handled);
+    QCOMPARE(m_groups.Take().join(QLatin1Char(' ')), handled);
 }
 
 void TestProfileFile::loadingEndsAtTheFirstFailure()
 {
-    const QString path = Files::Write(Path("a.ini"), savedText);
-    QCOMPARE(MV::LoadProfile(path, Groups(QStringLiteral("Property")), m_result), EProfileProblem::None);
+    const QString path = Files::Write(Path("a.ini"), "[Preset]\na=1\n[Property]\na=1\n[Collision]\na=1\n");
+    QCOMPARE(MV::LoadProfile(path, m_groups.Make(QStringLiteral("Property")), m_result), EProfileProblem::None);
     QCOMPARE(m_result, BF::Results::Refused);
-    QCOMPARE(m_handled, (QStringList{QStringLiteral("Preset"), QStringLiteral("Property")}));
+    QCOMPARE(m_groups.Take(), (QStringList{QStringLiteral("Preset"), QStringLiteral("Property")}));
 }
 
 void TestProfileFile::storeStandsInsideTheGroup()
@@ -243,7 +165,7 @@ void TestProfileFile::whatIsNoFileIsAnInvalidPath()
     QCOMPARE(Load(m_folder->filePath(path)), EProfileProblem::InvalidPath);
     QCOMPARE(Load(QString()), EProfileProblem::InvalidPath);
     QCOMPARE(m_result, BF::Results::Success);
-    QVERIFY(m_handled.isEmpty());
+    QVERIFY(m_groups.Take().isEmpty());
 }
 
 #ifdef Q_OS_UNIX // Elsewhere no folder holds pipes.
@@ -260,7 +182,7 @@ void TestProfileFile::unreadableFileIsTold()
     const QString path = Files::Write(Path("a.ini"), "[Property]\na=1\n");
     const FileRefusal refusal(path, FileRefusal::Of::ReadingAndWriting);
     QCOMPARE(Load(path), EProfileProblem::Unreadable);
-    QVERIFY(m_handled.isEmpty());
+    QVERIFY(m_groups.Take().isEmpty());
 }
 
 void TestProfileFile::changedFileIsReadAnew()
@@ -269,7 +191,7 @@ void TestProfileFile::changedFileIsReadAnew()
     Load(path);
     Files::Write(path, "[Collision]\na=1\n");
     Load(path);
-    QCOMPARE(m_handled, (QStringList{QStringLiteral("Property"), QStringLiteral("Collision")}));
+    QCOMPARE(m_groups.Take(), (QStringList{QStringLiteral("Property"), QStringLiteral("Collision")}));
 }
 
 void TestProfileFile::largeFileIsRead()
@@ -281,9 +203,7 @@ void TestProfileFile::largeFileIsRead()
     content += "[Collision]\na=1\n";
     const QString path = Files::Write(Path("large.ini"), content);
     QCOMPARE(Load(path), EProfileProblem::None);
-    QCOMPARE(m_handled, (QStringList{QStringLiteral("Property"), QStringLiteral("Collision")}));
-    QCOMPARE(Save(path), EProfileProblem::None);
-    QVERIFY(Files::Read(path).size() > content.size());
+    QCOMPARE(m_groups.Take(), (QStringList{QStringLiteral("Property"), QStringLiteral("Collision")}));
 }
 
 void TestProfileFile::loadingWritesNothing()
@@ -294,202 +214,6 @@ void TestProfileFile::loadingWritesNothing()
     QCOMPARE(Files::Read(path), content);
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList{QStringLiteral("a.ini")});
-}
-
-void TestProfileFile::savedGroupsAreInTheFile()
-{
-    QCOMPARE(Save(Path("new.ini")), EProfileProblem::None);
-    QCOMPARE(m_handled, (QStringList{QStringLiteral("Preset"), QStringLiteral("Property"), QStringLiteral("Collision"),
-                                     QStringLiteral("Wind_Setting")}));
-    QSettings saved(Path("new.ini"), QSettings::IniFormat);
-    for (const QString& group : qAsConst(m_handled)) {
-        QCOMPARE(saved.value(group + QLatin1String("/key")).toString(), group);
-    }
-    QCOMPARE(saved.allKeys().size(), 4);
-}
-
-void TestProfileFile::savingKeepsWhatItDoesNotWrite()
-{
-    const QString path =
-        Files::Write(Path("a.ini"), "loose=1\n[Other]\nname=K\xC3\xB6per\nlist=a, b, c\n[Property]\nkey=old\nOwn=9\n");
-    QCOMPARE(Save(path), EProfileProblem::None);
-    QSettings saved(path, QSettings::IniFormat);
-    saved.setIniCodec("UTF-8");
-    QCOMPARE(saved.value(QStringLiteral("loose")).toString(), QStringLiteral("1"));
-    QCOMPARE(saved.value(QStringLiteral("Other/name")).toString(), QString::fromUtf8("K\xC3\xB6per"));
-    QCOMPARE(saved.value(QStringLiteral("Other/list")).toStringList().size(), 3);
-    QCOMPARE(saved.value(QStringLiteral("Property/Own")).toString(), QStringLiteral("9"));
-    QCOMPARE(saved.value(QStringLiteral("Property/key")).toString(), QStringLiteral("Property"));
-    QVERIFY(Files::Read(path).contains("K\xC3\xB6per"));
-}
-
-void TestProfileFile::savingOverNoiseGivesAProfile_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QByteArray noise;
-    for (int i = 0; i < 4096; ++i) {
-        noise += char(i * 131 + i / 7);
-    }
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("binary") << noise;
-    QTest::newRow("zeros") << QByteArray(1000, '\0');
-    QTest::newRow("no keys") << QByteArray("just some text\nwithout anything\n");
-}
-
-void TestProfileFile::savingOverNoiseGivesAProfile()
-{
-    QFETCH(const QByteArray, content);
-    const QString path = Files::Write(Path("a.ini"), content);
-    Load(path);
-    QCOMPARE(Save(path), EProfileProblem::None);
-    m_handled.clear();
-    QCOMPARE(Load(path), EProfileProblem::None);
-    QCOMPARE(m_handled.size(), 4);
-}
-
-void TestProfileFile::anyNoiseCanBeSavedOver()
-{
-    QRandomGenerator random(7);
-    const QByteArray alphabet("[]=;#\\/%\"'\n\r \t,@()xuU0Preset\xC3\xB6\xEF\xBB\xBF\0", 38);
-    for (int round = 0; round < 300; ++round) {
-        QByteArray noise;
-        for (int i = random.bounded(400); i > 0; --i) {
-            noise += alphabet.at(random.bounded(alphabet.size()));
-        }
-        const QString path = Files::Write(m_folder->filePath(QStringLiteral("%1.ini").arg(round)), noise);
-        QVERIFY2(Save(path) == EProfileProblem::None, noise.toPercentEncoding());
-        m_handled.clear();
-        QCOMPARE(Load(path), EProfileProblem::None);
-        QVERIFY2(m_handled.size() == 4, noise.toPercentEncoding());
-    }
-}
-
-void TestProfileFile::missingFoldersAreMade()
-{
-    const QString path = Path("one/two/new.ini");
-    QCOMPARE(Save(path), EProfileProblem::None);
-    QVERIFY(QFileInfo(path).isFile());
-}
-
-void TestProfileFile::unwritableTargetIsTold_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("folder") << QStringLiteral("folder");
-#ifdef Q_OS_UNIX // On Windows such permissions are not a matter of one call.
-    QTest::newRow("new file in a read-only folder") << QStringLiteral("folder/new.ini");
-    QTest::newRow("file in a read-only folder") << QStringLiteral("folder/old.ini");
-    QTest::newRow("file that cannot be read") << QStringLiteral("secret.ini");
-#endif
-    QTest::newRow("under a file") << QStringLiteral("file/new.ini");
-    QTest::newRow("read-only file") << QStringLiteral("readonly.ini");
-}
-
-void TestProfileFile::unwritableTargetIsTold()
-{
-    QFETCH(const QString, path);
-    const QByteArray content = "[Property]\na=1\n";
-    Files::OpenToAll(m_folder->path());
-    const auto put = [&](const char* name, int permissions) {
-        const QString file = Files::Write(Path(name), content);
-        QVERIFY(QFile::setPermissions(file, QFileDevice::Permissions(permissions)));
-    };
-    put("folder/old.ini", 0x6666);
-    put("file", 0x6666);
-    put("readonly.ini", 0x4444);
-    put("secret.ini", 0x2222);
-    QVERIFY(QFile::setPermissions(Path("folder"), QFileDevice::Permissions(0x5555)));
-    {
-        const OrdinaryUser user;
-        QCOMPARE(Save(m_folder->filePath(path)), EProfileProblem::Unwritable);
-    }
-    for (const char* name : {"folder/old.ini", "file", "readonly.ini", "secret.ini"}) {
-        QCOMPARE(Files::Read(Path(name)), content);
-    }
-    QVERIFY(QFile::setPermissions(Path("folder"), QFileDevice::Permissions(0x7777)));
-    QCOMPARE(QDir(Path("folder")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
-             QStringList{QStringLiteral("old.ini")});
-}
-
-#ifdef Q_OS_UNIX
-void TestProfileFile::failedWriteLeavesTheOldFile()
-{
-    // Large enough for the new content not to fit, malformed so that the store has something else to complain of.
-    const QByteArray content = "no key\n[Property]\nold=" + QByteArray(5000, 'x') + '\n';
-    const QString path = Files::Write(Path("a.ini"), content);
-    {
-        const FullDisk full(5000);
-        QCOMPARE(Save(path), EProfileProblem::Unwritable);
-        QCOMPARE(Save(Path("new.ini")), EProfileProblem::None);
-    }
-    QCOMPARE(Files::Read(path), content);
-    QCOMPARE(Save(path), EProfileProblem::None);
-    QVERIFY(Files::Read(path) != content);
-}
-
-void TestProfileFile::fullDiskIsNoticed_data()
-{
-    QTest::addColumn<int>("room");
-    // At the end of a line, within a value, within a name, and one byte too little.
-    const QByteArray text(savedText);
-    QTest::newRow("nothing fits") << 0;
-    QTest::newRow("first line") << text.indexOf('\n') + 1;
-    QTest::newRow("first group") << text.indexOf("\n\n") + 1;
-    QTest::newRow("within a value") << text.indexOf("key=Property") + 8;
-    QTest::newRow("within a name") << text.lastIndexOf("key=") + 2;
-    QTest::newRow("all but the last line end") << text.size() - 1;
-}
-
-void TestProfileFile::fullDiskIsNoticed()
-{
-    QFETCH(const int, room);
-    {
-        const FullDisk full{rlim_t(room)};
-        QCOMPARE(Save(Path("new.ini")), EProfileProblem::Unwritable);
-    }
-    QVERIFY(!QFileInfo::exists(Path("new.ini")));
-    const FullDisk enough(rlim_t(qstrlen(savedText)));
-    QCOMPARE(Save(Path("new.ini")), EProfileProblem::None);
-    QCOMPARE(Files::Read(Path("new.ini")), QByteArray(savedText));
-}
-
-#endif
-
-void TestProfileFile::refusedSaveLeavesNoTrace()
-{
-    const QByteArray content = "[Property]\na=1\n";
-    Files::OpenToAll(m_folder->path());
-    const QString path = Files::Write(Path("folder/a.ini"), content);
-    QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions(0x6666)));
-    {
-#ifdef Q_OS_UNIX
-        const FileRefusal refusal(Path("folder"), FileRefusal::Of::Writing);
-#else
-        const FileRefusal refusal(path, FileRefusal::Of::Writing);
-#endif
-        QCOMPARE(Save(path), EProfileProblem::Unwritable);
-    }
-    m_handled.clear();
-    Load(path);
-    QCOMPARE(m_handled, QStringList{QStringLiteral("Property")});
-    QCOMPARE(Files::Read(path), content);
-}
-
-void TestProfileFile::savingLeavesNoOtherFiles()
-{
-    QCOMPARE(Save(Path("a.ini")), EProfileProblem::None);
-    QCOMPARE(Save(Path("a.ini")), EProfileProblem::None);
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-             QStringList{QStringLiteral("a.ini")});
-}
-
-void TestProfileFile::savedFileKeepsItsPermissions()
-{
-    const QString path = Files::Write(Path("a.ini"), "[Property]\na=1\n");
-    const QFileDevice::Permissions permissions(0x6640);
-    QVERIFY(QFile::setPermissions(path, permissions));
-    const QFileDevice::Permissions before = QFileInfo(path).permissions();
-    QCOMPARE(Save(path), EProfileProblem::None);
-    QCOMPARE(QFileInfo(path).permissions(), before);
 }
 
 QTEST_MAIN(TestProfileFile)

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void changedGravityBoxWritesToo();
     void unchangedGravityBoxWritesOnce();
     void failedGravityWriteEndsTheLoading();
+    void selectionIsReadAgainForEachGroup();
     void failuresOfTheSectionsAreNotExamined();
     void missingSectionsAreSkipped();
     void affectAllMaterialsGoesWithEveryWrite();
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void refusedFilesChangeNothing_data();
     void refusedFilesChangeNothing();
     void unreadableFileChangesNothing();
+    void readOnlyProfileIsLoaded();
     void oddFilesAreLoaded_data();
     void oddFilesAreLoaded();
     void profileWithoutSelectionReachesTheHost();
@@ -168,6 +170,24 @@ void TestProfileLoad::failedGravityWriteEndsTheLoading()
     QCOMPARE(fixture.Cloth(*fixture.hero).property.mass, qint64(1));
 }
 
+void TestProfileLoad::selectionIsReadAgainForEachGroup()
+{
+    LoadFixture fixture;
+    const Host::Object& flag = fixture.AddCloth(SampleModels::Flag());
+    fixture.host.Select({fixture.hero->handle});
+    fixture.host.Journal().Clear();
+    // Inside the first write the host selects another object; what follows is for that one.
+    fixture.During("SetUseGlobalGravity", [&] { fixture.host.Select({flag.handle}); });
+    QByteArray content = wholeProfile;
+    content.replace("Gravity=true", "Gravity=false");
+    QCOMPARE(fixture.Load(content), BF::Results::Success);
+    QVERIFY(!fixture.Cloth(*fixture.hero).useGlobalGravity);
+    QVERIFY(!fixture.Cloth(flag).useGlobalGravity);
+    QCOMPARE(fixture.Cloth(*fixture.hero).property.mass, qint64(1));
+    QCOMPARE(fixture.Cloth(flag).property.mass, qint64(3));
+    QCOMPARE(fixture.Cloth(flag).wind.frequency, 2.0F);
+}
+
 void TestProfileLoad::failuresOfTheSectionsAreNotExamined()
 {
     LoadFixture fixture;
@@ -276,6 +296,23 @@ void TestProfileLoad::unreadableFileChangesNothing()
     const FileRefusal refusal(path, FileRefusal::Of::ReadingAndWriting);
     QCOMPARE(fixture.section->LoadProfileFile(path), BF::Results::NothingDone);
     QCOMPARE(fixture.Take(), QStringList{Journal::Message(QStringLiteral("File is Unreadable."))});
+}
+
+void TestProfileLoad::readOnlyProfileIsLoaded()
+{
+    LoadFixture fixture;
+    Files::OpenToAll(fixture.folder.path());
+    const QString path = Files::Write(fixture.Path(QStringLiteral("folder/profile.ini")), wholeProfile);
+    QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions(0x4444)));
+    const QString folder = QFileInfo(path).path();
+    QVERIFY(QFile::setPermissions(folder, QFileDevice::Permissions(0x5555)));
+    {
+        const OrdinaryUser user;
+        QCOMPARE(fixture.section->LoadProfileFile(path), BF::Results::Success);
+    }
+    QCOMPARE(fixture.Cloth(*fixture.hero).property.mass, qint64(3));
+    QVERIFY(QFile::setPermissions(folder, QFileDevice::Permissions(0x7777)));
+    QCOMPARE(Files::Read(path), QByteArray(wholeProfile));
 }
 
 void TestProfileLoad::oddFilesAreLoaded_data()

@@ -1,0 +1,135 @@
+#include "tests/support/TestCase.h"
+#include "tests/unit/preset/PresetFixture.h"
+
+#include <QTabWidget>
+
+/// Presets of the gallery that the user applies.
+class TestPresetApply : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void doubleClickAppliesTheCurrentItem_data();
+    void doubleClickAppliesTheCurrentItem();
+    void itemUnderTheMouseDoesNotCount();
+    void itemWithoutProfileIsAnInvalidPath();
+    void missingCurrentItemIsAnInvalidPath();
+    void slotAppliesTheGivenList();
+    void presetsAddedLaterDoNotAppear();
+};
+
+namespace {
+
+void DoubleClick(const QListWidget& list, const QListWidgetItem* item)
+{
+    const QPoint at = list.visualItemRect(item).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, at);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, at);
+}
+
+/// A preset at place 1 of the cloth and of the hair list, and one at place 2 of the wind list; the profiles have a
+/// group each.
+void FillData(const QString& folder)
+{
+    const QString root = folder + QStringLiteral("/PhysicsSoftPreset/");
+    Files::Write(root + QStringLiteral("0/1_First.png"), ImageBytes({8, 8}));
+    Files::Write(root + QStringLiteral("0/1_First.ini"), "[Collision]\nSelf_Collision_Margin=1.5\n");
+    Files::Write(root + QStringLiteral("1/1_Middle.png"), ImageBytes({8, 8}));
+    Files::Write(root + QStringLiteral("1/1_Middle.ini"), "[Property]\nMass=2\n");
+    Files::Write(root + QStringLiteral("2/2_Second.png"), ImageBytes({8, 8}));
+    Files::Write(root + QStringLiteral("2/2_Second.ini"), "[Wind_Setting]\nWind_Frequency=3\n");
+}
+
+const QString invalidPath = QStringLiteral("InValid File Path.");
+
+} // namespace
+
+void TestPresetApply::doubleClickAppliesTheCurrentItem_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<int>("item");
+    QTest::addColumn<QString>("call");
+    QTest::newRow("cloth") << 0 << 0 << QStringLiteral("SetSoftClothCollision");
+    QTest::newRow("hair") << 1 << 0 << QStringLiteral("SetSoftClothProperty");
+    QTest::newRow("wind") << 2 << 1 << QStringLiteral("SetSoftClothWind");
+}
+
+void TestPresetApply::doubleClickAppliesTheCurrentItem()
+{
+    QFETCH(const int, page);
+    QFETCH(const int, item);
+    QFETCH(const QString, call);
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    fixture.Find<QTabWidget>("qtPresetTabWidget")->setCurrentIndex(page);
+    DoubleClick(fixture.List(page), fixture.List(page).item(item));
+    const QStringList calls = fixture.Take();
+    QCOMPARE(calls.size(), 1);
+    QVERIFY2(calls.first().startsWith(call), qPrintable(calls.first()));
+}
+
+void TestPresetApply::itemUnderTheMouseDoesNotCount()
+{
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    QListWidget& list = fixture.List(0);
+    // Whatever is clicked, the first item becomes current before the double click.
+    connect(&list, &QListWidget::itemPressed, this, [&list] { list.setCurrentRow(0); });
+    DoubleClick(list, list.item(2));
+    QVERIFY(fixture.Take().join(QLatin1Char(' ')).startsWith(QLatin1String("SetSoftClothCollision")));
+}
+
+void TestPresetApply::itemWithoutProfileIsAnInvalidPath()
+{
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    DoubleClick(fixture.List(0), fixture.List(0).item(3));
+    QCOMPARE(fixture.Take(), QStringList{Journal::Message(invalidPath)});
+}
+
+void TestPresetApply::missingCurrentItemIsAnInvalidPath()
+{
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    QListWidget& list = fixture.List(0);
+    connect(&list, &QListWidget::itemPressed, this, [&list] { list.setCurrentItem(nullptr); });
+    DoubleClick(list, list.item(0));
+    QCOMPARE(list.currentItem(), nullptr);
+    QCOMPARE(fixture.Take(), QStringList{Journal::Message(invalidPath)});
+}
+
+void TestPresetApply::slotAppliesTheGivenList()
+{
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    const auto apply = [&](QListWidget* list) {
+        return QMetaObject::invokeMethod(fixture.section, "OnChangeCurrentItemOfPresetContentListWidget",
+                                         Q_ARG(QListWidget*, list));
+    };
+    QListWidget own;
+    own.addItem(QStringLiteral("mine"));
+    own.item(0)->setData(256, fixture.data.filePath(QStringLiteral("PhysicsSoftPreset/2/2_Second.ini")));
+    own.setCurrentRow(0);
+    QVERIFY(apply(&own));
+    QVERIFY(fixture.Take().first().startsWith(QLatin1String("SetSoftClothWind")));
+    QVERIFY(apply(nullptr));
+    QCOMPARE(fixture.Take(), QStringList{Journal::Message(invalidPath)});
+}
+
+void TestPresetApply::presetsAddedLaterDoNotAppear()
+{
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    Files::Write(fixture.data.filePath(QStringLiteral("PhysicsSoftPreset/0/2_Later.png")), ImageBytes({8, 8}));
+    fixture.section->UpdateUi(false);
+    QVERIFY(fixture.List(0).item(1)->icon().isNull());
+    // A profile is read anew each time.
+    Files::Write(fixture.data.filePath(QStringLiteral("PhysicsSoftPreset/0/1_First.ini")),
+                 "[Wind_Setting]\nWind_Frequency=3\n");
+    fixture.host.Journal().Clear();
+    DoubleClick(fixture.List(0), fixture.List(0).item(0));
+    QVERIFY(fixture.Take().first().startsWith(QLatin1String("SetSoftClothWind")));
+}
+
+QTEST_MAIN(TestPresetApply)
+#include "tst_preset_apply.moc"
