@@ -17,7 +17,7 @@ qt_options=(-opensource -confirm-license -release -xplatform win32-g++ -device-o
     -qt-zlib -qt-pcre -qt-libpng -qt-libjpeg -qt-freetype -qt-harfbuzz
     -no-feature-sql -no-feature-network -no-feature-printer -no-feature-tabletevent -no-direct2d -no-pch -silent)
 qt_modules=(widgets xml testlib winmain plugins)
-model_formats=(OBJ FBX COLLADA GLTF PLY STL BLEND)
+model_formats=(3DS BLEND COLLADA FBX GLTF OBJ PLY STL)
 
 # Another release or other options are other libraries.
 libraries=$cache/$(printf '%s\n' "$qt_release" "${qt_options[@]}" "${qt_modules[@]}" "${model_formats[@]}" |
@@ -136,7 +136,9 @@ PROJECT
 build_assimp() {
     say "Building Assimp"
     local source=$libraries/assimp
-    patch -R -N -r - -p1 -s -d "$source" <"$source/debian/patches/use-system-libdraco.patch" || true
+    if grep -q 'find_package(draco' "$source/code/CMakeLists.txt"; then
+        patch -R -p1 -s -d "$source" <"$source/debian/patches/use-system-libdraco.patch"
+    fi
     mkdir -p "$source/contrib/unzip"
     cp "$libraries"/zlib/contrib/minizip/{crypt.h,ioapi.c,ioapi.h,unzip.c,unzip.h} "$source/contrib/unzip"
     : >"$source/contrib/unzip/crypt.c"

@@ -45,6 +45,19 @@ struct Image
 
     QString NameAt(quint64 address) const { return QString::fromLatin1(bytes.constData() + Offset(address)); }
 
+    /// A name of more than eight characters stands behind the symbols, and its place there in the header.
+    QByteArray NameOf(const IMAGE_SECTION_HEADER& section) const
+    {
+        char name[IMAGE_SIZEOF_SHORT_NAME + 1] = {}; // Eight characters have no end of their own.
+        std::memcpy(name, section.Name, IMAGE_SIZEOF_SHORT_NAME);
+        if (name[0] != '/') {
+            return name;
+        }
+        const quint64 names =
+            headers.FileHeader.PointerToSymbolTable + quint64(headers.FileHeader.NumberOfSymbols) * IMAGE_SIZEOF_SYMBOL;
+        return bytes.constData() + names + QByteArray(name + 1).toULongLong();
+    }
+
     quint64 Directory(int number) const { return headers.OptionalHeader.DataDirectory[number].VirtualAddress; }
 
     const QByteArray& bytes;
@@ -69,10 +82,9 @@ QByteArray LibraryFile::Section(const QByteArray& name) const
 {
     const Image image(m_bytes);
     for (const IMAGE_SECTION_HEADER& section : image.sections) {
-        // An image keeps the first eight characters of a name, without an end when there are eight.
-        char known[IMAGE_SIZEOF_SHORT_NAME + 1] = {};
-        std::memcpy(known, section.Name, IMAGE_SIZEOF_SHORT_NAME);
-        if (name.left(IMAGE_SIZEOF_SHORT_NAME) == known) {
+        // A stripped image keeps the first eight characters of a name.
+        const QByteArray known = image.NameOf(section);
+        if (known == name || known == name.left(IMAGE_SIZEOF_SHORT_NAME)) {
             // What follows up to the raw size is padding.
             return m_bytes.mid(int(section.PointerToRawData), int(section.Misc.VirtualSize));
         }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QKeyEvent>
@@ -32,7 +33,7 @@ QString NameOf(const QWidget& window)
 
 TourHands::TourHands(MainWindow& window, const QString& folder)
     : m_window(window)
-    , m_folder(folder)
+    , m_folder(QDir(folder).absolutePath())
 {
 }
 

@@ -139,7 +139,8 @@ void TestImageFiles::anyPathWorks()
 void TestImageFiles::messageNamesTheFileAndTheReason()
 {
     QCOMPARE(Host::UnreadableImageText(QStringLiteral("/maps/flag.png"), QStringLiteral("it is truncated")),
-             QStringLiteral("The image \"/maps/flag.png\" could not be read: it is truncated."));
+             QStringLiteral("The image \"%1\" could not be read: it is truncated.")
+                 .arg(QDir::toNativeSeparators(QStringLiteral("/maps/flag.png"))));
 }
 
 QTEST_GUILESS_MAIN(TestImageFiles)

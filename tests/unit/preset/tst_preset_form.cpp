@@ -215,7 +215,8 @@ void TestPresetForm::startRegistersHotKeysAndAsksForThePresets()
     QCOMPARE(fixture.TakeCalls(),
              (QStringList{QStringLiteral("HotKey.RegisterSectionHotKeys([\"[Hot Key] Modify\", \"[Hot Key] Physics\"], "
                                          "\"MVSoftClothPresetSection\") -> 1"),
-                          QStringLiteral("Scene.GetDataFolderPath(\"%1/\", 3) -> 0").arg(folder.path())}));
+                          QStringLiteral("Scene.GetDataFolderPath(\"%1\", 3) -> 0")
+                              .arg(QDir::toNativeSeparators(folder.path() + u'/'))}));
 }
 
 void TestPresetForm::failingDataFolderLeavesTheGalleryEmpty()

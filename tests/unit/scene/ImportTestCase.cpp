@@ -25,7 +25,7 @@ ImportResult ImportTestCase::ImportText(const QByteArray& obj, const QByteArray&
 
 QString ImportTestCase::SampleModel(const QString& name)
 {
-    return QDir(QStringLiteral(SOFTCLOTH_TEST_MODELS)).filePath(name);
+    return QDir(QStringLiteral(SOFTCLOTH_TEST_MODELS)).absoluteFilePath(name);
 }
 
 Host::Object ImportTestCase::Import(const char* name)

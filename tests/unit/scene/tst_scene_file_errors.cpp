@@ -79,7 +79,7 @@ void TestSceneFileErrors::damagedFileIsRefused()
     QVERIFY(!result.ok);
     QVERIFY(!scene);
     QVERIFY2(result.error.contains(complaint), qPrintable(result.error));
-    QVERIFY2(result.error.contains(PathOf("robe.scene")), qPrintable(result.error));
+    QVERIFY2(result.error.contains(QDir::toNativeSeparators(PathOf("robe.scene"))), qPrintable(result.error));
     QVERIFY(Files::Read(PathOf("robe.scene")) == content);
 }
 
@@ -273,7 +273,7 @@ void TestSceneFileErrors::impossibleTargetIsRefused()
     const SceneFileResult saved = Host::SaveScene(Scene(), path);
     QVERIFY(!saved.ok);
     QVERIFY2(saved.error.startsWith(QStringLiteral("The scene could not be saved as")), qPrintable(saved.error));
-    QVERIFY2(saved.error.contains(path), qPrintable(saved.error));
+    QVERIFY2(saved.error.contains(QDir::toNativeSeparators(path)), qPrintable(saved.error));
 
     std::unique_ptr<Scene> scene;
     const SceneFileResult loaded = Host::LoadScene(path, scene);
