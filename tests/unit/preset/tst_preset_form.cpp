@@ -2,6 +2,7 @@
 #include "tests/unit/preset/PresetFixture.h"
 #include "tests/unit/sections/FormChecks.h"
 
+#include <QDir>
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QTabWidget>
