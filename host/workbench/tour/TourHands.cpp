@@ -2,9 +2,9 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -33,7 +33,7 @@ QString NameOf(const QWidget& window)
 
 TourHands::TourHands(MainWindow& window, const QString& folder)
     : m_window(window)
-    , m_folder(QDir(folder).absolutePath())
+    , m_folder(QFileInfo(folder).absoluteFilePath())
 {
 }
 

@@ -163,7 +163,7 @@ void TestProfileDialogs::profileIsSaved()
     QCOMPARE(saved.value(QStringLiteral("Preset/Use_Global_Gravity")), QVariant(QStringLiteral("true")));
     QCOMPARE(saved.value(QStringLiteral("Property/Mass")), QVariant(QStringLiteral("6")));
     QCOMPARE(saved.allKeys().size(), 1 + 16 + 4 + 4);
-    QVERIFY(Files::Read(path).replace("\r\n", "\n").contains("\nExternal_Acceleration=0, 0, 0\n"));
+    QVERIFY(Files::ReadText(path).contains("\nExternal_Acceleration=0, 0, 0\n"));
 }
 
 void TestProfileDialogs::savedNameGetsASuffix()

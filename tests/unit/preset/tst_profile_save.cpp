@@ -292,7 +292,7 @@ void TestProfileSave::largeFileIsSavedOver()
     }
     const QString path = Files::Write(Path("large.ini"), content);
     QCOMPARE(Save(path), EProfileProblem::None);
-    const QByteArray saved = Files::Read(path);
+    const QByteArray saved = Files::ReadText(path);
     QCOMPARE(saved.count('='), content.count('=') + 4);
     QVERIFY(saved.contains("\nkey=Wind_Setting\n"));
 }
