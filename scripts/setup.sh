@@ -17,13 +17,16 @@ packages=(
 for option in "$@"; do
     case $option in
     --tools) packages+=(clang-format clang-tidy clazy) ;;
-    --windows) packages+=(
+    --windows)
+        packages+=(
             # cross compiler and what unpacks and builds Debian's sources
             g++-mingw-w64-x86-64-posix make dpkg-dev patch perl python3 util-linux
             # parts of those sources that Debian has apart
             libz-mingw-w64-dev libutfcpp-dev libstb-dev
-            # the tests' Windows
-            wine wine64 zip) ;;
+            # the tests' Windows, with a font of its own
+            wine wine64 fonts-wine
+        )
+        ;;
     *)
         say "Unknown option $option"
         exit 1
