@@ -48,7 +48,7 @@ bool RunTour(MainWindow& window, const QString& folder)
         Tell(QStringLiteral("%1 cannot be made").arg(folder));
         return false;
     }
-    TourHands hands(window, folder);
+    TourHands hands(window, QDir(folder).absolutePath()); // a file dialog has a folder of its own
     bool allHold = true;
     for (const auto& subject : {ModelSteps, WeightSteps, TuningSteps, ProfileSteps, ClosingSteps}) {
         for (const TourStep& step : subject(hands)) {

@@ -24,6 +24,7 @@ class TestMaterialPanel : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data();
     void chosenMaterialIsWhatTheSectionsEdit();
     void firstActiveMaterialIsChosen();
     void anotherObjectIsListedAnew();
@@ -43,10 +44,17 @@ private Q_SLOTS:
 
 namespace {
 
+/// The application family of the run.
+ECompatibleApp Family()
+{
+    QFETCH_GLOBAL(const ECompatibleApp, family);
+    return family;
+}
+
 /// The panel with a hero whose three materials are soft cloth, and the open dialog.
 struct MaterialPanel : PanelFixture
 {
-    explicit MaterialPanel(ECompatibleApp app = ECompatibleApp::FamilyA)
+    explicit MaterialPanel(ECompatibleApp app = Family())
         : PanelFixture(app)
     {
         hero = &AddCloth(SampleModels::Hero());
@@ -117,6 +125,14 @@ const QStringList heroRows{QStringLiteral("Skin( Body )"), QStringLiteral("Hair(
                            QStringLiteral("Skirt( Clothes )")};
 
 } // namespace
+
+/// Everything runs in both families.
+void TestMaterialPanel::initTestCase_data()
+{
+    QTest::addColumn<ECompatibleApp>("family");
+    QTest::newRow("family A") << ECompatibleApp::FamilyA;
+    QTest::newRow("family B") << ECompatibleApp::FamilyB;
+}
 
 void TestMaterialPanel::chosenMaterialIsWhatTheSectionsEdit()
 {

@@ -11,6 +11,7 @@ class TestPresetApply : public TestCase
 private Q_SLOTS:
     void doubleClickAppliesTheCurrentItem_data();
     void doubleClickAppliesTheCurrentItem();
+    void nothingElseAppliesAnItem();
     void itemUnderTheMouseDoesNotCount();
     void itemWithoutProfileIsAnInvalidPath();
     void missingCurrentItemIsAnInvalidPath();
@@ -68,6 +69,19 @@ void TestPresetApply::doubleClickAppliesTheCurrentItem()
     QVERIFY2(calls.first().startsWith(call), qPrintable(calls.first()));
 }
 
+void TestPresetApply::nothingElseAppliesAnItem()
+{
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    QListWidget& list = fixture.List(0);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, list.visualItemRect(list.item(0)).center());
+    QCOMPARE(list.currentRow(), 0);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Right, Qt::Key_Left}) {
+        QTest::keyClick(&list, key);
+    }
+    QCOMPARE(fixture.Take(), QStringList());
+}
+
 void TestPresetApply::itemUnderTheMouseDoesNotCount()
 {
     PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
@@ -111,7 +125,7 @@ void TestPresetApply::slotAppliesTheGivenList()
     own.item(0)->setData(256, fixture.data.filePath(QStringLiteral("PhysicsSoftPreset/2/2_Second.ini")));
     own.setCurrentRow(0);
     QVERIFY(apply(&own));
-    QVERIFY(fixture.Take().first().startsWith(QLatin1String("SetSoftClothWind")));
+    QVERIFY(fixture.Take().constFirst().startsWith(QLatin1String("SetSoftClothWind")));
     QVERIFY(apply(nullptr));
     QCOMPARE(fixture.Take(), QStringList{Journal::Message(invalidPath)});
 }
@@ -128,7 +142,7 @@ void TestPresetApply::presetsAddedLaterDoNotAppear()
                  "[Wind_Setting]\nWind_Frequency=3\n");
     fixture.host.Journal().Clear();
     DoubleClick(fixture.List(0), fixture.List(0).item(0));
-    QVERIFY(fixture.Take().first().startsWith(QLatin1String("SetSoftClothWind")));
+    QVERIFY(fixture.Take().constFirst().startsWith(QLatin1String("SetSoftClothWind")));
 }
 
 QTEST_MAIN(TestPresetApply)

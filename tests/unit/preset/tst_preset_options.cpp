@@ -150,7 +150,7 @@ void TestPresetOptions::paintButtonReplacesAnotherMode()
     fixture.host.SetDialogMode(MV::EDialogMode(7));
     fixture.host.Journal().Clear();
     fixture.Click("qtPaintPushButton");
-    QCOMPARE(fixture.Take().last(), QStringLiteral("SetDialogMode(25) -> 0"));
+    QCOMPARE(fixture.Take().constLast(), QStringLiteral("SetDialogMode(25) -> 0"));
 }
 
 void TestPresetOptions::failedModeChangeIsNotTold()
@@ -159,7 +159,7 @@ void TestPresetOptions::failedModeChangeIsNotTold()
     fixture.AddCloth();
     fixture.host.Faults().FailOperation(QStringLiteral("SetDialogMode"), BF::Results::Refused);
     fixture.Click("qtPaintPushButton");
-    QCOMPARE(fixture.Take().last(), QStringLiteral("SetDialogMode(25) -> 0x80000006"));
+    QCOMPARE(fixture.Take().constLast(), QStringLiteral("SetDialogMode(25) -> 0x80000006"));
     QVERIFY(!fixture.plugin->MaterialDlg()->isVisible());
 }
 

@@ -267,7 +267,7 @@ void TestPresetRefresh::gravityIsAskedForWithAffectAllMaterials()
     for (const bool all : {false, true}) {
         fixture.Selection().affectAllMaterials = all;
         fixture.section->UpdateUi(true);
-        QCOMPARE(fixture.Take().last(),
+        QCOMPARE(fixture.Take().constLast(),
                  fixture.Call("GetUseGlobalGravity",
                               {QStringLiteral("true"), Host::JournalText(fixture.host.CurrentScene())(all)}));
     }

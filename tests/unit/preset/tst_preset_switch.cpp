@@ -203,7 +203,7 @@ void TestPresetSwitch::missingDialogCountsAsNoMaterials()
     delete fixture.plugin->MaterialDlg();
     fixture.Click(activeBox);
     QVERIFY(!fixture.IsChecked(activeBox));
-    QCOMPARE(fixture.TakeActions().last(),
+    QCOMPARE(fixture.TakeActions().constLast(),
              Journal::Message(
                  QStringLiteral("This object does not have any valid material enabling to create soft cloth.")));
 }

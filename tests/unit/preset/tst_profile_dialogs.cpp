@@ -104,7 +104,7 @@ void TestProfileDialogs::dialogsAskForTheRightThing()
             QCOMPARE(dialog.fileMode(), saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
             dialog.reject();
         });
-    QCOMPARE(fixture.Take().first(), QStringLiteral("GetDefaultFolder(\"%1\", 72) -> 0").arg(folder));
+    QCOMPARE(fixture.Take().constFirst(), QStringLiteral("GetDefaultFolder(\"%1\", 72) -> 0").arg(folder));
 }
 
 void TestProfileDialogs::failingFolderStillAsks()

@@ -193,7 +193,7 @@ void TestProfileLoad::failuresOfTheSectionsAreNotExamined()
     LoadFixture fixture;
     fixture.host.Faults().FailOperation(QStringLiteral("SetSoftClothProperty"), BF::Results::Refused);
     QCOMPARE(fixture.Load(wholeProfile), BF::Results::Success);
-    QCOMPARE(fixture.Operations().last(), QStringLiteral("SetSoftClothWind"));
+    QCOMPARE(fixture.Operations().constLast(), QStringLiteral("SetSoftClothWind"));
 }
 
 void TestProfileLoad::missingSectionsAreSkipped()
