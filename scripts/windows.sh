@@ -26,6 +26,9 @@ if [ ! -e "$WINEPREFIX/ready" ]; then
 fi
 trap 'wineserver -k || true' EXIT
 wineserver -p
+# The first program brings up Windows' own services, which hold on to its output as long as they run: one that waits, as
+# long as this script runs, lest it be a test whose end is then not seen.
+exec 8> >(scripts/wine.sh "$SOFTCLOTH_WINDOWS_LIBRARIES" cmd /c more >/dev/null 2>&1)
 
 build windows-mingw
 
