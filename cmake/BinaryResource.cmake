@@ -19,5 +19,5 @@ function(add_binary_resource name)
         COMMENT "Packing ${name}.rcc"
         VERBATIM)
     add_custom_target(${name}_rcc ALL DEPENDS "${ARG_OUTPUT}")
-    install(FILES "${ARG_OUTPUT}" DESTINATION ${CMAKE_INSTALL_LIBDIR}/movira COMPONENT plugin)
+    install(FILES "${ARG_OUTPUT}" DESTINATION "${SOFTCLOTH_INSTALL_PLUGIN_DIR}" COMPONENT plugin)
 endfunction()

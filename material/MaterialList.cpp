@@ -11,6 +11,7 @@
 #include "ui/SignalBlocker.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QListWidget>
@@ -285,7 +286,8 @@ void CSoftClothMaterialDlg::OnFilterMaterialList()
         ShowMessage(tr("InValid File Path."));
         return;
     }
-    if (!file.isReadable()) {
+    // Permissions alone do not tell: another program may have the file to itself.
+    if (!QFile(path).open(QIODevice::ReadOnly)) {
         ShowMessage(tr("File is Unreadable."));
         return;
     }

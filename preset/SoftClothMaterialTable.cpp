@@ -135,6 +135,8 @@ void CSoftClothMaterialTable::SetUpTable()
     QHeaderView* header = table->horizontalHeader();
     header->setSectionsClickable(false);
     header->setSectionResizeMode(TickColumn, QHeaderView::Fixed);
+    // Some styles and fonts would have it wider.
+    header->setMinimumSectionSize(tickColumnWidth);
     header->resizeSection(TickColumn, tickColumnWidth);
     header->setSectionResizeMode(MeshColumn, QHeaderView::Stretch);
     header->setSectionResizeMode(MaterialColumn, QHeaderView::Stretch);

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the project needs on a Debian 12 machine: only what is missing, nothing when all is there.
-# Options: --tools  also the tools that check the sources (clang-format, clang-tidy, clazy)
+# Options: --tools    also the tools that check the sources (clang-format, clang-tidy, clazy)
+#          --windows  also what builds and runs the Windows library (MinGW, Wine, the tools that unpack Qt's sources)
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 packages=(
@@ -13,9 +14,25 @@ packages=(
     # a display where there is none, and a font
     xvfb xauth fontconfig fonts-dejavu-core
 )
-if [ "${1:-}" = --tools ]; then
-    packages+=(clang-format clang-tidy clazy)
-fi
+for option in "$@"; do
+    case $option in
+    --tools) packages+=(clang-format clang-tidy clazy) ;;
+    --windows)
+        packages+=(
+            # cross compiler and what unpacks and builds Debian's sources
+            g++-mingw-w64-x86-64-posix make dpkg-dev patch perl python3 util-linux
+            # parts of those sources that Debian has apart
+            libz-mingw-w64-dev libutfcpp-dev libstb-dev
+            # the tests' Windows, with a font of its own
+            wine wine64 fonts-wine
+        )
+        ;;
+    *)
+        say "Unknown option $option"
+        exit 1
+        ;;
+    esac
+done
 
 missing=()
 for package in "${packages[@]}"; do

@@ -6,8 +6,13 @@ build dev
 sdk=build/vendor/sdk
 tree=build/vendor/build
 say "Installing a copy of the SDK into $sdk"
-rm -rf "$sdk" "$tree"
+rm -rf "$sdk" "$tree" build/vendor/package
 cmake --install build/dev --component sdk --prefix "$PWD/$sdk" >/dev/null
+say "Building a project that finds it by its CMake package"
+cmake -S tests/package -B build/vendor/package -G Ninja -DCMAKE_PREFIX_PATH="$PWD/$sdk" >/dev/null
+cmake --build build/vendor/package
+QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen} build/vendor/package/sdk-consumer
+
 # Without its build tree at hand, the plug-in can only find what was installed.
 say "Building the plug-in with MOVIRA_SDK_DIR=$sdk"
 cmake -S . -B "$tree" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMOVIRA_SDK_DIR="$PWD/$sdk" \

@@ -64,6 +64,9 @@ qint64 BytesOf(const Scene& scene)
 SceneFileResult Save(const Scene& scene, const QString& path)
 {
     const QFileInfo info(path);
+    if (path.isEmpty()) {
+        return NotSaved(path, QStringLiteral("it has no name"));
+    }
     if (info.exists() && !info.isFile()) {
         return NotSaved(path, QStringLiteral("it is not a file"));
     }

@@ -1,15 +1,15 @@
 #include "MVPluginQt/FormLoader.h"
 
-#include <BFQtCustomWidgetPluginU/CustomWidgetFactory.h>
+#ifdef MVPLUGINQT_WITH_UI_TOOLS
+#include "MVPluginQt/UiToolsReader.h"
+#else
+#include "MVPluginQt/FormReader.h"
+#endif
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QPointer>
-#include <QUiLoader>
-#include <QWidget>
 
 namespace MV::Internal {
 
@@ -17,75 +17,26 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcForms, "movira.sdk.forms")
 
-/// Takes the application's library paths away for its life time.
-///
-/// QUiLoader's constructor loads every library that it finds in the "designer" folders below these paths, which
-/// would bring foreign code into the host. The widgets of the host are known without that.
-class CLibraryPathsHidden
-{
-public:
-    CLibraryPathsHidden()
-        : m_paths(QCoreApplication::libraryPaths())
-    {
-        QCoreApplication::setLibraryPaths({});
-    }
-    ~CLibraryPathsHidden() { QCoreApplication::setLibraryPaths(m_paths); }
-    Q_DISABLE_COPY_MOVE(CLibraryPathsHidden)
-
-private:
-    QStringList m_paths;
-};
-
-class CFormLoader : public QUiLoader
-{
-public:
-    static CFormLoader& Instance()
-    {
-        // Made at the first form and kept: setting up a loader costs more than loading a form with it.
-        static QPointer<CFormLoader> loader;
-        if (!loader) {
-            loader = Create();
-        }
-        return *loader;
-    }
-
-    QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override
-    {
-        if (QWidget* widget = CreateCustomWidget(className, parent)) {
-            widget->setObjectName(name);
-            return widget;
-        }
-        return QUiLoader::createWidget(className, parent, name);
-    }
-
-private:
-    explicit CFormLoader(QObject* parent)
-        : QUiLoader(parent)
-    {
-        clearPluginPaths();
-    }
-
-    static CFormLoader* Create()
-    {
-        const CLibraryPathsHidden hidden;
-        return new CFormLoader(QCoreApplication::instance());
-    }
-};
+#ifdef MVPLUGINQT_WITH_UI_TOOLS
+constexpr auto read = &ReadFormWithUiTools;
+#else
+constexpr auto read = &ReadForm;
+#endif
 
 } // namespace
 
 QWidget* LoadForm(const QString& path, const QString& workingFolder, QWidget* parent)
 {
     QFile file(path);
+    QString error;
     if (!file.open(QIODevice::ReadOnly)) {
         qCWarning(lcForms, "Form %s: %s", qUtf8Printable(path), qUtf8Printable(file.errorString()));
         return nullptr;
     }
-    CFormLoader& loader = CFormLoader::Instance();
-    loader.setWorkingDirectory(QDir(workingFolder.isEmpty() ? QFileInfo(path).path() : workingFolder));
-    QWidget* form = loader.load(&file, parent);
+    const QDir folder(workingFolder.isEmpty() ? QFileInfo(path).path() : workingFolder);
+    QWidget* form = read(file, folder, parent, error);
     if (!form) {
-        qCWarning(lcForms, "Form %s: %s", qUtf8Printable(path), qUtf8Printable(loader.errorString()));
+        qCWarning(lcForms, "Form %s: %s", qUtf8Printable(path), qUtf8Printable(error));
     }
     return form;
 }

@@ -312,8 +312,7 @@ void TestWorkbench::missingLibrarySaysSo()
 
 void TestWorkbench::foreignLibrarySaysSo()
 {
-    const QString widgets =
-        QFileInfo(QStringLiteral(SOFTCLOTH_PLUGIN_FILE)).path() + QStringLiteral("/libBFQtCustomWidgetPluginU.so");
+    const QString widgets = QStringLiteral(SOFTCLOTH_WIDGET_LIBRARY);
     QVERIFY(QFile::exists(widgets));
     ExpectWarning(QStringLiteral("not a plug-in for this host"));
     QVERIFY(!m_window->StartPlugin(widgets, MV::ECompatibleApp::FamilyA));

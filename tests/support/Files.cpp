@@ -25,6 +25,11 @@ QByteArray Read(const QString& path)
     return file.readAll();
 }
 
+QByteArray ReadText(const QString& path)
+{
+    return Read(path).replace("\r\n", "\n");
+}
+
 void OpenToAll(const QString& folder)
 {
     if (!QFile::setPermissions(folder, QFileDevice::Permissions(0x7777))) {

@@ -11,6 +11,9 @@ QString Write(const QString& path, const QByteArray& content);
 
 QByteArray Read(const QString& path);
 
+/// What Read() answers, with all lines ending in a line feed alone, whatever this system's programs end them in.
+QByteArray ReadText(const QString& path);
+
 /// Lets everybody use the folder of a QTemporaryDir, whose own user alone may enter it.
 void OpenToAll(const QString& folder);
 

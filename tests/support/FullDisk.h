@@ -2,10 +2,12 @@
 
 #include <QtGlobal>
 
+#ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
 
-/// While it lives no file of this process can grow beyond \p bytes, as on a disk that is full.
+/// While it lives no file of this process can grow beyond \p bytes, as on a disk that is full. Only where there is such
+/// a limit.
 class FullDisk
 {
 public:
@@ -28,3 +30,4 @@ private:
     rlimit m_limit{};
     void (*m_handler)(int);
 };
+#endif

@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -32,7 +33,7 @@ QString NameOf(const QWidget& window)
 
 TourHands::TourHands(MainWindow& window, const QString& folder)
     : m_window(window)
-    , m_folder(folder)
+    , m_folder(QFileInfo(folder).absoluteFilePath())
 {
 }
 

@@ -1,3 +1,5 @@
+#include "tests/support/FileRefusal.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/material/DialogFixture.h"
 
@@ -8,7 +10,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <unistd.h>
+#include <optional>
 
 /// The loading of ignored material names from a profile file, which a hot key sets off.
 class TestIgnoredNames : public TestCase
@@ -183,15 +185,10 @@ void TestIgnoredNames::unreadableFileIsToldToTheUser()
 {
     NamesFixture fixture;
     const QString path = fixture.Write("[Ignored_Material_Name_List]\n");
-    const uid_t user = getuid();
-    const uid_t nobody = 65534;
-    fixture.Choose(path, [&] {
-        // The superuser may read everything, so that another user has to look in its place.
-        QVERIFY(QFile::setPermissions(path, QFileDevice::WriteOwner));
-        QVERIFY(QFile::setPermissions(fixture.folder.path(), QFileDevice::Permissions(0x7755)));
-        QVERIFY(user != 0 || setreuid(nobody, uid_t(-1)) == 0);
-    });
-    QVERIFY(user != 0 || setreuid(user, uid_t(-1)) == 0);
+    Files::OpenToAll(fixture.folder.path());
+    std::optional<FileRefusal> refusal;
+    fixture.Choose(path, [&] { refusal.emplace(path, FileRefusal::Of::ReadingAndWriting); });
+    refusal.reset();
     QCOMPARE(fixture.Take(), QStringList{Journal::Message(QStringLiteral("File is Unreadable."))});
 }
 

@@ -2,6 +2,7 @@
 #include "tests/unit/preset/PresetFixture.h"
 #include "tests/unit/sections/FormChecks.h"
 
+#include <QDir>
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -215,7 +216,8 @@ void TestPresetForm::startRegistersHotKeysAndAsksForThePresets()
     QCOMPARE(fixture.TakeCalls(),
              (QStringList{QStringLiteral("HotKey.RegisterSectionHotKeys([\"[Hot Key] Modify\", \"[Hot Key] Physics\"], "
                                          "\"MVSoftClothPresetSection\") -> 1"),
-                          QStringLiteral("Scene.GetDataFolderPath(\"%1/\", 3) -> 0").arg(folder.path())}));
+                          QStringLiteral("Scene.GetDataFolderPath(\"%1\", 3) -> 0")
+                              .arg(QDir::toNativeSeparators(folder.path() + u'/'))}));
 }
 
 void TestPresetForm::failingDataFolderLeavesTheGalleryEmpty()

@@ -1,5 +1,5 @@
+#include "tests/support/FileRefusal.h"
 #include "tests/support/Files.h"
-#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/preset/NotedGroups.h"
 
@@ -8,7 +8,9 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#ifdef Q_OS_UNIX
 #include <sys/stat.h>
+#endif
 
 Q_DECLARE_METATYPE(MV::EProfileProblem)
 
@@ -28,7 +30,9 @@ private Q_SLOTS:
     void textIsUtf8();
     void whatIsNoFileIsAnInvalidPath_data();
     void whatIsNoFileIsAnInvalidPath();
+#ifdef Q_OS_UNIX
     void pipeIsAnInvalidPath();
+#endif
     void unreadableFileIsTold();
     void changedFileIsReadAnew();
     void largeFileIsRead();
@@ -38,8 +42,14 @@ protected:
     void SetUp() override;
 
 private:
-    QString Path(const char* name) const { return m_folder->filePath(QLatin1String(name)); }
-    EProfileProblem Load(const QString& path) { return MV::LoadProfile(path, m_groups.Make(), m_result); }
+    QString Path(const char* name) const
+    {
+        return m_folder->filePath(QLatin1String(name));
+    }
+    EProfileProblem Load(const QString& path)
+    {
+        return MV::LoadProfile(path, m_groups.Make(), m_result);
+    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     NotedGroups m_groups;
@@ -142,7 +152,9 @@ void TestProfileFile::whatIsNoFileIsAnInvalidPath_data()
     QTest::newRow("nothing there") << QStringLiteral("missing.ini");
     QTest::newRow("folder") << QStringLiteral(".");
     QTest::newRow("under a file") << QStringLiteral("file/profile.ini");
+#ifdef Q_OS_UNIX // A shortcut of Windows is a file.
     QTest::newRow("link to nothing") << QStringLiteral("link");
+#endif
 }
 
 void TestProfileFile::whatIsNoFileIsAnInvalidPath()
@@ -156,18 +168,19 @@ void TestProfileFile::whatIsNoFileIsAnInvalidPath()
     QVERIFY(m_groups.Take().isEmpty());
 }
 
+#ifdef Q_OS_UNIX // Elsewhere no folder holds pipes.
 void TestProfileFile::pipeIsAnInvalidPath()
 {
     QCOMPARE(mkfifo(qPrintable(Path("pipe")), 0600), 0);
     QCOMPARE(Load(Path("pipe")), EProfileProblem::InvalidPath);
 }
+#endif
 
 void TestProfileFile::unreadableFileIsTold()
 {
     Files::OpenToAll(m_folder->path());
     const QString path = Files::Write(Path("a.ini"), "[Property]\na=1\n");
-    QVERIFY(QFile::setPermissions(path, QFileDevice::WriteOwner));
-    const OrdinaryUser user;
+    const FileRefusal refusal(path, FileRefusal::Of::ReadingAndWriting);
     QCOMPARE(Load(path), EProfileProblem::Unreadable);
     QVERIFY(m_groups.Take().isEmpty());
 }

@@ -2,6 +2,8 @@
 #include "tests/support/UserDialogs.h"
 #include "tests/unit/preset/PresetFixture.h"
 
+#include <algorithm>
+
 /// What the documentation tells of the profile's format.
 class TestProfileFormat : public TestCase
 {
@@ -29,7 +31,7 @@ struct FormatFixture : PresetFixture
     {
         const QString path = Path(QStringLiteral("saved.ini"));
         UserDialogs::ChooseFile([&] { Click("qtSaveFilePushButton"); }, path);
-        return Files::Read(path);
+        return Files::ReadText(path);
     }
 
     Host::Object* hero = nullptr;
@@ -53,6 +55,19 @@ QByteArray Example(int index)
     return document.mid(start, document.indexOf("```", start) - start);
 }
 
+/// \p profile with its groups, and the keys of each, in alphabetical order.
+QByteArray InOrder(const QByteArray& profile)
+{
+    QStringList groups = QString::fromUtf8(profile).trimmed().split(QStringLiteral("\n\n"));
+    for (QString& group : groups) {
+        QStringList lines = group.split(u'\n');
+        std::sort(lines.begin() + 1, lines.end());
+        group = lines.join(u'\n');
+    }
+    groups.sort();
+    return groups.join(QStringLiteral("\n\n")).toUtf8() + '\n';
+}
+
 /// A value of the host.
 using Value = double (*)(const Host::ClothState& cloth);
 
@@ -63,7 +78,13 @@ Q_DECLARE_METATYPE(Value)
 void TestProfileFormat::completeExampleIsWhatASaveWrites()
 {
     FormatFixture fixture;
+#ifdef Q_OS_WIN
+    // There the store keeps the order in which the panel writes.
+    QCOMPARE(InOrder(fixture.Save()), Example(0));
+#else
     QCOMPARE(fixture.Save(), Example(0));
+#endif
+    QCOMPARE(InOrder(Example(0)), Example(0));
 }
 
 void TestProfileFormat::shortExampleChangesTheWindOnly()
@@ -121,7 +142,11 @@ void TestProfileFormat::textsCountAsValues_data()
     row("key twice", "[Property]\nMass=1\nMass=2\n", mass, 2);
     row("quotes", "[Property]\nMass=\"3\"\n", mass, 3);
     row("blanks", "[Property]\n  Mass = 4  \n", mass, 4);
+#ifdef Q_OS_WIN
+    row("key in lower case", "[Property]\nmass=4\n", mass, 4);
+#else
     row("key in lower case", "[Property]\nmass=4\n", mass, 0);
+#endif
     row("decimals", "[Property]\nFriction=0.25\n", friction, 0.25);
     row("beyond the box's decimals", "[Property]\nFriction=0.00390625\n", friction, 0.00390625);
     row("exponent", "[Property]\nFriction=25e-2\n", friction, 0.25);

@@ -1,7 +1,8 @@
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
-#include "tests/support/OrdinaryUser.h"
+#include "tests/support/FileRefusal.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/preset/PresetFixture.h"
 
@@ -292,8 +293,7 @@ void TestProfileLoad::unreadableFileChangesNothing()
     LoadFixture fixture;
     Files::OpenToAll(fixture.folder.path());
     const QString path = Files::Write(fixture.Path(QStringLiteral("secret.ini")), wholeProfile);
-    QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions(0)));
-    const OrdinaryUser user;
+    const FileRefusal refusal(path, FileRefusal::Of::ReadingAndWriting);
     QCOMPARE(fixture.section->LoadProfileFile(path), BF::Results::NothingDone);
     QCOMPARE(fixture.Take(), QStringList{Journal::Message(QStringLiteral("File is Unreadable."))});
 }

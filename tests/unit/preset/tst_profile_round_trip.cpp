@@ -38,7 +38,7 @@ struct RoundTrip : PresetFixture
         Show(object);
         const QString path = Path(QLatin1String(name));
         UserDialogs::ChooseFile([&] { Click("qtSaveFilePushButton"); }, path);
-        return Files::Read(path);
+        return Files::ReadText(path);
     }
     void Load(const Host::Object& object, const char* name)
     {

@@ -2,7 +2,7 @@
 
 #include "tests/unit/scene/Files.h"
 
-#include <QDir>
+#include <QFileInfo>
 
 using Host::ImportResult;
 
@@ -25,7 +25,7 @@ ImportResult ImportTestCase::ImportText(const QByteArray& obj, const QByteArray&
 
 QString ImportTestCase::SampleModel(const QString& name)
 {
-    return QDir(QStringLiteral(SOFTCLOTH_TEST_MODELS)).filePath(name);
+    return QFileInfo(QStringLiteral(SOFTCLOTH_TEST_MODELS "/") + name).absoluteFilePath();
 }
 
 Host::Object ImportTestCase::Import(const char* name)

@@ -128,7 +128,8 @@ void TestImportTextures::linkedTextureIsFound()
     const ImportResult result = ImportText(SquareObj(), "newmtl Cloth\nKd 1 1 1\nmap_Kd " + asked + "\n");
     QVERIFY2(result.object, qPrintable(result.error));
     const auto& texture = result.object->materials[0].textures.at(ETextureChannel::Diffuse);
-    QCOMPARE(texture.filePath, path);
+    // The same file: on Windows any spelling of its name leads to it.
+    QCOMPARE(QFileInfo(texture.filePath), QFileInfo(path));
     QVERIFY(texture.embedded.isEmpty());
 }
 
@@ -144,7 +145,7 @@ void TestImportTextures::linkedTextureBesideTheModelIsTheLastResort()
     for (const auto& material : result.object->materials) {
         paths[material.name] = material.textures.at(ETextureChannel::Diffuse).filePath;
     }
-    QCOMPARE(paths.value(QStringLiteral("BeinTex")), PathOf(QStringLiteral("DRKWOOD2.JPG")));
+    QCOMPARE(QFileInfo(paths.value(QStringLiteral("BeinTex"))), QFileInfo(PathOf(QStringLiteral("DRKWOOD2.JPG"))));
     QVERIFY2(paths.value(QStringLiteral("Skin")).endsWith(QStringLiteral("/models/OBJ/wal67ar_small.jpg")),
              qPrintable(paths.value(QStringLiteral("Skin"))));
 }

@@ -79,7 +79,7 @@ void TestSceneFileErrors::damagedFileIsRefused()
     QVERIFY(!result.ok);
     QVERIFY(!scene);
     QVERIFY2(result.error.contains(complaint), qPrintable(result.error));
-    QVERIFY2(result.error.contains(PathOf("robe.scene")), qPrintable(result.error));
+    QVERIFY2(result.error.contains(QDir::toNativeSeparators(PathOf("robe.scene"))), qPrintable(result.error));
     QVERIFY(Files::Read(PathOf("robe.scene")) == content);
 }
 
@@ -250,8 +250,10 @@ void TestSceneFileErrors::impossibleTargetIsRefused_data()
     QTest::newRow("folder") << QStringLiteral("folder") << true;
     QTest::newRow("missing folder") << QStringLiteral("nowhere/robe.scene") << false;
     QTest::newRow("under a file") << QStringLiteral("file/robe.scene") << false;
+#ifdef Q_OS_UNIX // Elsewhere a folder is not locked by its permissions, and the system has its own in other places.
     QTest::newRow("read-only folder") << QStringLiteral("locked/robe.scene") << false;
     QTest::newRow("system folder") << QStringLiteral("/proc/robe.scene") << false;
+#endif
     QTest::newRow("no name") << QString() << false;
 }
 
@@ -271,7 +273,7 @@ void TestSceneFileErrors::impossibleTargetIsRefused()
     const SceneFileResult saved = Host::SaveScene(Scene(), path);
     QVERIFY(!saved.ok);
     QVERIFY2(saved.error.startsWith(QStringLiteral("The scene could not be saved as")), qPrintable(saved.error));
-    QVERIFY2(saved.error.contains(path), qPrintable(saved.error));
+    QVERIFY2(saved.error.contains(QDir::toNativeSeparators(path)), qPrintable(saved.error));
 
     std::unique_ptr<Scene> scene;
     const SceneFileResult loaded = Host::LoadScene(path, scene);

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QMenu>
-#include <QProcess>
 #include <QToolBar>
 
 #include <memory>
@@ -82,34 +81,19 @@ protected:
     void SetUp() override;
 
 private:
-    /// Packs a resource file whose content is \p content.
-    QByteArray Pack(const QString& content) const;
-
     FormFolder m_folder;
-    QByteArray m_first;
+    QByteArray m_first; ///< A resource file that says "first".
     QByteArray m_second;
     EmptyHost m_host;
 };
 
-QByteArray TestAbstractPlugin::Pack(const QString& content) const
-{
-    m_folder.Write(QStringLiteral("content.txt"), content.toLatin1());
-    const QString qrc = m_folder.Write(QStringLiteral("sample.qrc"),
-                                       "<RCC><qresource prefix=\"/sample\"><file>content.txt</file></qresource></RCC>");
-    const QString packed = m_folder.Path(QStringLiteral("packed.rcc"));
-    QFile file(packed);
-    const int exitCode = QProcess::execute(QStringLiteral(RCC_PROGRAM),
-                                           {QStringLiteral("--binary"), QStringLiteral("--output"), packed, qrc});
-    if (exitCode != 0 || !file.open(QIODevice::ReadOnly)) {
-        qFatal("cannot pack %s", qPrintable(packed));
-    }
-    return file.readAll();
-}
-
 void TestAbstractPlugin::initTestCase()
 {
-    m_first = Pack(QStringLiteral("first"));
-    m_second = Pack(QStringLiteral("second"));
+    for (const auto& [name, content] : {std::make_pair("first", &m_first), std::make_pair("second", &m_second)}) {
+        QFile file(QStringLiteral(SAMPLE_RESOURCES "/%1.rcc").arg(QLatin1String(name)));
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+        *content = file.readAll();
+    }
 }
 
 void TestAbstractPlugin::SetUp()

@@ -64,10 +64,13 @@ const Record fullRecord{16,   120,  0.5F, 1.25F, 0.1F,  0.2F,  0.3F, 0.25F, 12.5
 /// What a profile without any key stands for.
 const Record emptyRecord{0, 0, 1.01F, 0.0F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F, 1.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F, {}};
 
-/// A file with these lines as the settings store writes it: sorted, below the group's name.
+/// A file with these lines as the settings store writes it, below the group's name: sorted, but on Windows, where the
+/// keys stay as they were written.
 QStringList SavedAs(QStringList lines)
 {
+#ifndef Q_OS_WIN
     lines.sort();
+#endif
     lines.prepend(QStringLiteral("[Property]"));
     return lines;
 }

@@ -11,6 +11,7 @@
 
 #include <QDesktopServices>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QSignalSpy>
 #include <QUrl>
@@ -182,29 +183,29 @@ QVector<BF::CHandle*> TestImageEditor::WaitForChange()
 
 void TestImageEditor::programGetsTheFiles_data()
 {
-    QTest::addColumn<QString>("scriptName");
-    QTest::addColumn<QString>("command"); // %1 is the script
+    QTest::addColumn<QString>("programName"); // %1 is the suffix that programs have here
+    QTest::addColumn<QString>("command");     // %1 is the program
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("program") << QStringLiteral("editor.sh") << QStringLiteral("%1") << QStringList();
+    QTest::newRow("program") << QStringLiteral("editor.%1") << QStringLiteral("%1") << QStringList();
     QTest::newRow("program in a folder with spaces")
-        << QStringLiteral("my editor.sh") << QStringLiteral("%1") << QStringList();
-    QTest::newRow("with arguments") << QStringLiteral("editor.sh") << QStringLiteral("%1 --new \"two words\"")
+        << QStringLiteral("my editor.%1") << QStringLiteral("%1") << QStringList();
+    QTest::newRow("with arguments") << QStringLiteral("editor.%1") << QStringLiteral("%1 --new \"two words\"")
                                     << QStringList{QStringLiteral("--new"), QStringLiteral("two words")};
     QTest::newRow("in quotes, with an argument")
-        << QStringLiteral("my editor.sh") << QStringLiteral("\"%1\" -n") << QStringList{QStringLiteral("-n")};
+        << QStringLiteral("my editor.%1") << QStringLiteral("\"%1\" -n") << QStringList{QStringLiteral("-n")};
 }
 
 void TestImageEditor::programGetsTheFiles()
 {
-    QFETCH(QString, scriptName);
+    QFETCH(QString, programName);
     QFETCH(QString, command);
     QFETCH(QStringList, arguments);
     const QString told = PathOf(QStringLiteral("told.txt"));
-    const QString script = SampleImages::WriteFile(
-        PathOf(scriptName),
-        QStringLiteral("#!/bin/sh\nprintf '%s\\n' \"$@\" >'%1.part' && mv '%1.part' '%1'\n").arg(told).toUtf8());
-    QVERIFY(QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    m_host->Editor().SetProgram(command.arg(script));
+    qputenv("SOFTCLOTH_EDITOR_NOTES", told.toUtf8());
+    const QFileInfo standIn(QStringLiteral(SOFTCLOTH_STAND_IN_EDITOR));
+    const QString program = PathOf(programName.arg(standIn.suffix()));
+    QVERIFY(QFile::copy(standIn.filePath(), program));
+    m_host->Editor().SetProgram(command.arg(program));
     const QStringList files{SampleImages::WriteFile(PathOf(QStringLiteral("a b.png")), Png(Qt::red)),
                             SampleImages::WriteFile(PathOf(QStringLiteral("東京 $x.png")), Png(Qt::red))};
     QCOMPARE(Launch(files), BF::Results::Success);

@@ -245,7 +245,7 @@ void TestWeightImageLoading::badFileIsRefusedWithAMessage()
     QCOMPARE(result, BF::Results::ResourceFailure);
     QVERIFY(CurrentScene().FindSlot(m_address)->cloth == former);
     QCOMPARE(m_problems.size(), 1);
-    QVERIFY2(m_problems.first().contains(PathOf(name)) && m_problems.first().contains(reason),
+    QVERIFY2(m_problems.first().contains(QDir::toNativeSeparators(PathOf(name))) && m_problems.first().contains(reason),
              qPrintable(m_problems.first()));
 
     // The caller takes it back without a look at what went wrong.
