@@ -82,8 +82,7 @@ void TestImageStore::imageIsDecodedOnce()
 void TestImageStore::embeddedImageIsDecodedOnce()
 {
     const Texture texture{{}, Png(SampleImages::HalfBlack(small))};
-    const Texture copy = texture;
-    QCOMPARE(m_store->Get(texture), m_store->Get(copy));
+    QCOMPARE(m_store->Get(texture), m_store->Get(texture));
     QCOMPARE(m_store->DecodeCount(), 1);
 }
 
@@ -272,8 +271,10 @@ void TestImageStore::unreadableImagesEndTheLoadToo()
 
 void TestImageStore::storeMayGoWhileLoading()
 {
+    constexpr int count = 50;
     std::vector<Texture> textures;
-    for (int i = 0; i < 50; ++i) {
+    textures.reserve(count);
+    for (int i = 0; i < count; ++i) {
         textures.push_back({{}, Png(SampleImages::Filled({200 + i, 200}, Qt::red))});
     }
     QSignalSpy done(m_store.get(), &ImageStore::LoadingDone);

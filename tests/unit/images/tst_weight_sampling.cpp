@@ -54,9 +54,9 @@ void TestWeightSampling::uvLiesInPixel_data()
     QTest::addColumn<QPoint>("pixel");
     const struct
     {
-        const char* name;
-        float u;
-        float v;
+        const char* name = nullptr;
+        float u = 0.0F;
+        float v = 0.0F;
         QPoint pixel;
     } rows[] = {
         {"lower left corner", 0.0F, 0.0F, {0, 4}},

@@ -82,7 +82,7 @@ void DialogFixture::During(const char* operation, std::function<void()> action)
 {
     auto connection = std::make_shared<QMetaObject::Connection>();
     const QString name = QString::fromLatin1(operation);
-    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded,
+    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, &host,
                                    [this, connection, name, action = std::move(action)](int index) {
                                        if (host.Journal().Entries().at(index).operation == name) {
                                            QObject::disconnect(*connection);

@@ -155,7 +155,7 @@ void TestMaterialDialog::initFailsWithTheHotKeys()
     MV::CSoftClothMaterialDlg dialog(&fixture.window, &fixture.plugin);
     fixture.host.Faults().FailOperation(operation, BF::Results::Refused);
     QCOMPARE(dialog.Init({}, {}, &fixture.host), BF::Results::Refused);
-    QCOMPARE(fixture.TakeOperations().last(), operation);
+    QCOMPARE(fixture.TakeOperations().constLast(), operation);
 }
 
 void TestMaterialDialog::slotsAreInOrder()
@@ -546,7 +546,7 @@ void TestMaterialDialog::tableFollowsTheSelectionOfItsOwnLoop()
         fixture.table->accept();
     });
     fixture.Click("qtShowMaterialTableButton");
-    QCOMPARE(fixture.Take().first(), QStringLiteral(R"(GetMeshList("Flag", ["Sheet"]) -> 0)"));
+    QCOMPARE(fixture.Take().constFirst(), QStringLiteral(R"(GetMeshList("Flag", ["Sheet"]) -> 0)"));
     QCOMPARE(fixture.dialog->MaterialCount(), 1);
 }
 

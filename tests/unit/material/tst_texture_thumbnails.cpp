@@ -195,7 +195,7 @@ void TestTextureThumbnails::failedStepEndsTheThumbnail()
     fixture.host.plan.textureSourcesLoad = true;
     fixture.host.Faults().FailOperation(operation, BF::Results::IndexOutOfRange);
     QCOMPARE(fixture.dialog->UpdateUi(), BF::Results::IndexOutOfRange);
-    QCOMPARE(fixture.TakeOperations().last(), operation);
+    QCOMPARE(fixture.TakeOperations().constLast(), operation);
 }
 
 void TestTextureThumbnails::pictureFillsTheLabel()

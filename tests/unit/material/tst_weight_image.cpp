@@ -324,7 +324,7 @@ void TestWeightImage::selectionMayChangeDuringTheMessage()
     fixture.host.Faults().FailOperation(QStringLiteral("LoadWeightImage"), BF::Results::Refused);
     fixture.During("ShowMessageBox", [&] { fixture.Selection().object = other; });
     fixture.Load(fixture.image);
-    QCOMPARE(fixture.Take().last(), QStringLiteral(R"(IsPhysicsActive("Flag", 3, false) -> 0)"));
+    QCOMPARE(fixture.Take().constLast(), QStringLiteral(R"(IsPhysicsActive("Flag", 3, false) -> 0)"));
 }
 
 void TestWeightImage::dialogMayDieDuringTheMessage_data()
@@ -758,7 +758,7 @@ void TestWeightImage::failedStepEndsTheSettings()
     fixture.host.plan.weightState = {true, false, true};
     fixture.host.Faults().FailOperation(operation, BF::Results::IndexOutOfRange);
     QCOMPARE(fixture.dialog->UpdateUi(), BF::Results::IndexOutOfRange);
-    QCOMPARE(fixture.TakeOperations().last(), operation);
+    QCOMPARE(fixture.TakeOperations().constLast(), operation);
 }
 
 void TestWeightImage::settingsDecideWhatIsEnabled_data()
