@@ -32,7 +32,8 @@ bool WriteAll(const QString& path, const QByteArray& content)
 /// and the blank lines of the groups. The store itself does not notice when its last block does not fit on the disk.
 bool IsWhole(const QByteArray& content, int keys)
 {
-    for (const QByteArray& line : content.split('\n')) {
+    const QList<QByteArray> lines = content.split('\n');
+    for (const QByteArray& line : lines) {
         if (!line.trimmed().isEmpty() && !line.startsWith('[')) {
             --keys;
         }

@@ -157,8 +157,8 @@ std::vector<QRgb> ColorMap(const QByteArray& bytes, const TgaHeader& header)
     std::vector<QRgb> colors(256, qRgb(0, 0, 0));
     const int entryBytes = TgaHeader::BytesOf(header.mapDepth);
     for (int i = 0; i < header.mapLength && header.mapStart + i < int(colors.size()); ++i) {
-        colors[std::size_t(header.mapStart + i)] =
-            ColorAt(bytes.constData() + header.MapAt() + i * entryBytes, header.mapDepth, header.mapDepth == 32);
+        colors[std::size_t(header.mapStart + i)] = ColorAt(bytes.constData() + header.MapAt() + qint64(i) * entryBytes,
+                                                           header.mapDepth, header.mapDepth == 32);
     }
     return colors;
 }

@@ -46,7 +46,7 @@ MaterialSlot* SceneIndex::FindSlot(const ClothAddress& address) const
     }
     const Place place = Lookup(m_meshes, address.mesh);
     const auto position = slots->second.find(address.material);
-    return place.object->handle == address.object && position != slots->second.end()
+    return place.object && place.object->handle == address.object && position != slots->second.end()
                ? &place.object->meshes[place.position].materialSlots[position->second]
                : nullptr;
 }

@@ -331,8 +331,12 @@ bool HostApplication::SetSoftClothActive(BF::CHandle* object, bool active)
 void HostApplication::ConvertToSoftCloth(BF::CHandle* object)
 {
     const Object* found = m_scene->FindObject(object);
-    const int activeBefore = found ? ActiveSlotCount(*found) : 0;
-    if (SetSoftClothActive(object, true) && ActiveSlotCount(*found) > activeBefore + 1) {
+    if (!found) {
+        return;
+    }
+    const int activeBefore = ActiveSlotCount(*found);
+    SetSoftClothActive(object, true);
+    if (ActiveSlotCount(*found) > activeBefore + 1) {
         Send("PhysicsSoftClothMultiMaterialsDetected", &CEventSender::PhysicsSoftClothMultiMaterialsDetected, object);
     }
 }

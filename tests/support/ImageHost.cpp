@@ -153,7 +153,7 @@ public:
         return m_call.Record(
             "ExportUvTexture",
             {m_call.In(object), m_call.In(quint64(materialIndex)), m_call.In(channel), m_call.Out(files)}, [&] {
-                for (const QString& file : m_host.plan.uvFiles) {
+                for (const QString& file : qAsConst(m_host.plan.uvFiles)) {
                     files.Add(file.toStdWString());
                 }
                 return Done();

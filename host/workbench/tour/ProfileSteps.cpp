@@ -55,8 +55,8 @@ QString LoadProfile(TourHands& hands)
         problem = TourHands::CheckNumber(QStringLiteral("the flag's margin"), double(cloth.collision.rigidMargin), 2.5);
     }
     if (problem.isEmpty()) {
-        problem =
-            TourHands::CheckNumber(QStringLiteral("the flag's wind"), cloth.wind.externalAcceleration.front(), -120);
+        problem = TourHands::CheckNumber(QStringLiteral("the flag's wind"),
+                                         double(cloth.wind.externalAcceleration.front()), -120);
     }
     return problem.isEmpty() && hands.CurrentScene().UndoStack().index() == stepsBefore
                ? QStringLiteral("there is nothing to undo")

@@ -30,7 +30,7 @@ QString EditMargin(TourHands& hands)
 {
     TourHands::Type(*hands.Find<QAbstractSpinBox>(marginBox), QLocale().toString(newMargin));
     const QString problem = TourHands::CheckNumber(QStringLiteral("the host's margin"),
-                                                   hands.EditedCloth()->collision.rigidMargin, newMargin);
+                                                   double(hands.EditedCloth()->collision.rigidMargin), newMargin);
     return problem.isEmpty() ? hands.CheckCalled("SetSoftClothCollision") : problem;
 }
 
@@ -66,8 +66,9 @@ QString EditProperty(TourHands& hands)
 QString EditWind(TourHands& hands)
 {
     TourHands::Type(*hands.Find<QAbstractSpinBox>("qtExternalXEXSpinBox"), QStringLiteral("-120"));
-    const QString problem = TourHands::CheckNumber(QStringLiteral("the host's acceleration"),
-                                                   hands.EditedCloth()->wind.externalAcceleration.front(), -120);
+    const QString problem =
+        TourHands::CheckNumber(QStringLiteral("the host's acceleration"),
+                               double(hands.EditedCloth()->wind.externalAcceleration.front()), -120);
     return problem.isEmpty() ? hands.CheckCalled("SetSoftClothWind") : problem;
 }
 
@@ -79,7 +80,7 @@ QString DragRandomFactor(TourHands& hands)
     const auto handle = [slider](int value) { return QPoint(8 + (slider->width() - 17) * value / 10, 16); };
     TourHands::Drag(*slider, handle(int(hands.EditedCloth()->wind.randomFactor.back())), handle(7));
     const QString problem = TourHands::CheckNumber(QStringLiteral("the host's random factor"),
-                                                   hands.EditedCloth()->wind.randomFactor.back(), 7);
+                                                   double(hands.EditedCloth()->wind.randomFactor.back()), 7);
     return problem.isEmpty() ? hands.CheckCalled("SetSoftClothWind") : problem;
 }
 
