@@ -24,6 +24,9 @@ if [ ! -e "$WINEPREFIX/ready" ]; then
     wineserver -w
     touch "$WINEPREFIX/ready"
 fi
+# Its dialog font; without it the first one of this machine would take its place.
+mkdir -p "$WINEPREFIX/drive_c/windows/Fonts"
+cp -u /usr/share/wine/fonts/tahoma*.ttf "$WINEPREFIX/drive_c/windows/Fonts"
 trap 'wineserver -k || true' EXIT
 wineserver -p
 # The first program brings up Windows' own services, which hold on to its output as long as they run: one that waits, as

@@ -12,7 +12,7 @@ namespace {
 template <class Struct>
 Struct At(const QByteArray& bytes, quint64 offset)
 {
-    Struct value;
+    Struct value{};
     std::memcpy(&value, bytes.constData() + offset, sizeof(Struct));
     return value;
 }
