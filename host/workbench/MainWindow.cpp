@@ -94,7 +94,7 @@ void MainWindow::CreateDocks()
     m_modifyPanel = new ModifyPanel;
     QDockWidget* modify = addDock(tr("Modify"), "modifyDock", m_modifyPanel, Qt::RightDockWidgetArea);
     resizeDocks({tree, controls}, {260, 480}, Qt::Vertical);
-    resizeDocks({tree, modify}, {270, 330}, Qt::Horizontal);
+    resizeDocks({tree, modify}, {270, 376}, Qt::Horizontal);
     connect(m_controls, &HostControls::ApplicationChosen, this, &MainWindow::RestartPlugin);
     m_panelPage = new QLabel(this);
     m_panelPage->setObjectName(QStringLiteral("panelPage"));

@@ -10,6 +10,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 
 /// How the sections look on this platform: none of their texts and boxes is cut off. The pictures are kept, for people
 /// to look at.
@@ -61,6 +62,22 @@ QStringList CutOff(const QWidget* section)
     return found;
 }
 
+/// The items whose names are wider than they are, in the lists that are shown.
+QStringList CutOffItems(const QWidget* section)
+{
+    QStringList found;
+    const QList<QListWidget*> lists = section->findChildren<QListWidget*>();
+    for (const QListWidget* list : lists) {
+        for (int row = 0; list->isVisible() && row < list->count(); ++row) {
+            const QListWidgetItem* item = list->item(row);
+            if (list->visualItemRect(item).width() < list->fontMetrics().horizontalAdvance(item->text())) {
+                found.append(item->text());
+            }
+        }
+    }
+    return found;
+}
+
 } // namespace
 
 void TestSectionPictures::nothingIsCutOff_data()
@@ -83,7 +100,7 @@ void TestSectionPictures::nothingIsCutOff()
 {
     QFETCH(const int, index);
     QFETCH(const int, width);
-    PanelFixture fixture;
+    PanelFixture fixture(MV::ECompatibleApp::FamilyA, QStringLiteral(SOFTCLOTH_DATA_FOLDER));
     fixture.AddCloth(SampleModels::Hero());
     QWidget* section = fixture.Plugin().Sections().at(index)->GetSectionWidget();
     // As wide as asked for, where the platform's style and font allow it.
@@ -98,6 +115,7 @@ void TestSectionPictures::nothingIsCutOff()
     QVERIFY2(picture.save(file), qPrintable(file));
     QCOMPARE(picture.size() / picture.devicePixelRatio(), section->size());
     QCOMPARE(CutOff(section).join(u'\n'), QString());
+    QCOMPARE(CutOffItems(section), QStringList());
 }
 
 QTEST_MAIN(TestSectionPictures)
