@@ -51,16 +51,23 @@ choose_compiler() {
     done
 }
 
-# Debian's sources without a change to the machine's own list of them.
+# Debian's sources, from where the machine has its packages from and without a change to its own lists.
 fetch_sources() {
     local apt=$cache/apt
-    mkdir -p "$apt/lists/partial" "$cache/sources"
-    printf 'deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $(debian_mirror) %s main\n' \
-        bookworm bookworm-updates >"$apt/sources.list"
-    local here=(-o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=- -o "Dir::State::Lists=$apt/lists"
-        -o APT::Sandbox::User=)
+    rm -rf "$apt"
+    mkdir -p "$apt/lists/partial" "$apt/places" "$cache/sources"
+    local list
+    for list in /etc/apt/sources.list /etc/apt/sources.list.d/*.{list,sources}; do
+        if [ -e "$list" ]; then
+            sed -E '/^deb-src /d; s/^deb /deb-src /; s/^Types:.*/Types: deb-src/' "$list" \
+                >"$apt/places/$(basename "$list")"
+        fi
+    done
+    local here=(-o Dir::Etc::SourceList=/dev/null -o "Dir::Etc::SourceParts=$apt/places"
+        -o "Dir::State::Lists=$apt/lists" -o APT::Sandbox::User=)
     say "Fetching the sources of ${sources[*]}"
-    apt-get "${here[@]}" -qq update
+    # Other vendors' places may have no sources; what is missing then shows in the next step.
+    apt-get "${here[@]}" -qq update || true
     (cd "$cache/sources" && apt-get "${here[@]}" -qq --download-only source "${sources[@]}")
     touch "$cache/sources/complete"
 }
