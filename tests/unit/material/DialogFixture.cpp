@@ -72,7 +72,8 @@ QStringList DialogFixture::Take()
 QStringList DialogFixture::TakeOperations()
 {
     QStringList names;
-    for (const QString& text : Take()) {
+    const QStringList texts = Take();
+    for (const QString& text : texts) {
         names.append(text.section(QLatin1Char('('), 0, 0));
     }
     return names;

@@ -121,7 +121,8 @@ void TestMaterialForms::childrenAreOfTheirClass_data()
     QTest::addColumn<bool>("isTable");
     QTest::addColumn<QString>("className");
     const auto rows = [](bool isTable, const char* className, const char* names) {
-        for (const QString& name : Split(names)) {
+        const QStringList all = Split(names);
+        for (const QString& name : all) {
             QTest::addRow("%s %s", isTable ? "table" : "dialog", qPrintable(name))
                 << isTable << QString::fromLatin1(className);
         }
@@ -191,10 +192,12 @@ void TestMaterialForms::widgetsExplainThemselves()
     const DialogFixture fixture;
     for (const bool isTable : {false, true}) {
         const QWidget* root = FormRoot(fixture, isTable);
-        for (const auto* button : Named<QAbstractButton>(root)) {
+        const auto buttons = Named<QAbstractButton>(root);
+        for (const auto* button : buttons) {
             QVERIFY2(!button->text().isEmpty() && !button->toolTip().isEmpty(), qPrintable(button->objectName()));
         }
-        for (const auto* widget : Named<QWidget>(root)) {
+        const auto widgets = Named<QWidget>(root);
+        for (const auto* widget : widgets) {
             const bool isField = widget->focusPolicy() != Qt::NoFocus && !qobject_cast<const QAbstractButton*>(widget);
             if (isField || widget->focusProxy()) {
                 QVERIFY2(!widget->accessibleName().isEmpty(), qPrintable(widget->objectName()));
@@ -228,10 +231,12 @@ void TestMaterialForms::accessKeysAreUnique()
     for (const bool isTable : {false, true}) {
         const QWidget* root = FormRoot(fixture, isTable);
         QStringList texts;
-        for (const auto* button : Named<QAbstractButton>(root)) {
+        const auto buttons = Named<QAbstractButton>(root);
+        for (const auto* button : buttons) {
             texts.append(button->text());
         }
-        for (const auto* label : Named<QLabel>(root)) {
+        const auto labels = Named<QLabel>(root);
+        for (const auto* label : labels) {
             texts.append(label->text());
         }
         QStringList keys;

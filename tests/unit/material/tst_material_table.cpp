@@ -314,7 +314,7 @@ void TestMaterialTable::unknownNamesAreLeftEmpty()
     fixture.SetRows();
     fixture.host.Faults().FailOperation(QStringLiteral("GetObjectName"), BF::Results::Refused, 1);
     QCOMPARE(fixture.table->FillTable(), BF::Results::Success);
-    QCOMPARE(fixture.Texts().first(), QStringLiteral("x Body "));
+    QCOMPARE(fixture.Texts().constFirst(), QStringLiteral("x Body "));
     QCOMPARE(fixture.Texts().mid(1), heroRows.mid(1));
 }
 

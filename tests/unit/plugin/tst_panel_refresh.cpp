@@ -122,8 +122,8 @@ void TestPanelRefresh::softClothStateEnablesTheSections()
     fixture.plugin->UpdateUi();
     QCOMPARE(fixture.plugin->Selection().softClothActive, active);
     const QStringList calls = fixture.TakeParts();
-    QVERIFY(calls.contains(Enabled(FakeParts::Text(active)).first()));
-    QVERIFY(calls.contains(Enabled(FakeParts::Text(active)).last()));
+    QVERIFY(calls.contains(Enabled(FakeParts::Text(active)).constFirst()));
+    QVERIFY(calls.contains(Enabled(FakeParts::Text(active)).constLast()));
 }
 
 void TestPanelRefresh::nothingShownDoesNotStopTheChain()

@@ -137,12 +137,13 @@ void PresetFixture::Invoke(const char* slot) const
 void PresetFixture::During(const char* operation, std::function<void()> action)
 {
     auto connection = std::make_shared<QMetaObject::Connection>();
-    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, [=](int index) {
+    const auto check = [this, connection, operation, action = std::move(action)](int index) {
         if (host.Journal().Entries().at(index).operation == QLatin1String(operation)) {
             QObject::disconnect(*connection);
             action();
         }
-    });
+    };
+    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, &host, check);
 }
 
 QByteArray ImageBytes(const QSize& size, const char* format)

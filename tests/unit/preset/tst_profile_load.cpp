@@ -215,7 +215,8 @@ void TestProfileLoad::affectAllMaterialsGoesWithEveryWrite()
     LoadFixture fixture;
     fixture.Click("qtAffectAllMaterialsCheckBox");
     QCOMPARE(fixture.Load(wholeProfile), BF::Results::Success);
-    for (const QString& call : fixture.TakeActions()) {
+    const QStringList actions = fixture.TakeActions();
+    for (const QString& call : actions) {
         QVERIFY2(call.contains(QLatin1String(", true) -> 0")), qPrintable(call));
     }
     for (const int slot : {0, 1, 2}) {

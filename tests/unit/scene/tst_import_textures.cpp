@@ -136,7 +136,6 @@ void TestImportTextures::linkedTextureIsFound()
 void TestImportTextures::linkedTextureBesideTheModelIsTheLastResort()
 {
     // The file names a folder of its author.
-    QDir folder(m_folder->path());
     QVERIFY(QFile::copy(SampleModel(QStringLiteral("FBX/spider.fbx")), PathOf(QStringLiteral("spider.fbx"))));
     QVERIFY(Files::Write(PathOf(QStringLiteral("DRKWOOD2.JPG")), "image"));
     const ImportResult result = ImportModel(PathOf(QStringLiteral("spider.fbx")));

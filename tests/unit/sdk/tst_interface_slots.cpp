@@ -65,7 +65,7 @@ public:
     virtual void Next() = 0;
 
 protected:
-    ~Extended() = default;
+    ~Extended() = default; // NOLINT(modernize-use-override): virtual in some interfaces only
 };
 
 template <class Interface>

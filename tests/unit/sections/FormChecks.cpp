@@ -203,7 +203,7 @@ void FailedRead(SectionFixture& fixture, const QWidget& section, const std::func
         QCOMPARE(refresh(), BF::Results::Refused);
         QCOMPARE(Child<QGroupBox>(&section, "qtSectionGroupBox")->isEnabled(), enabled);
         QCOMPARE(Shown(Child<QWidget>(&section, box)), shown);
-        QVERIFY(fixture.TakeCalls().last().startsWith(QLatin1String("Scene.") + operation));
+        QVERIFY(fixture.TakeCalls().constLast().startsWith(QLatin1String("Scene.") + operation));
     }
 }
 
