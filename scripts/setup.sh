@@ -9,8 +9,8 @@ packages=(
     g++ cmake ninja-build ccache binutils
     # Qt: widgets, run-time forms and Designer plug-ins, translations tools, further image formats
     qtbase5-dev qttools5-dev qttools5-dev-tools qt5-image-formats-plugins
-    # model import, and real models for the tests
-    libassimp-dev assimp-testmodels
+    # model import, what its CMake files want besides, and real models for the tests
+    libassimp-dev zlib1g-dev libminizip-dev assimp-testmodels
     # a display where there is none, and a font
     xvfb xauth fontconfig fonts-dejavu-core
 )
