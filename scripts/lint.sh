@@ -2,8 +2,9 @@
 # Checks the sources: --format (clang-format), --tidy (clang-tidy and clazy on the dev build), both without options.
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
-mapfile -t sources < <(git ls-files '*.cpp')
-mapfile -t headers < <(git ls-files '*.h')
+rooms=(ui sdk plugin sections material preset host tests)
+mapfile -t sources < <(find "${rooms[@]}" -name '*.cpp' | sort)
+mapfile -t headers < <(find "${rooms[@]}" -name '*.h' | sort)
 
 # No rule of ours: global strings are made before main() and cheap; properties of widgets need no notification.
 clazy_checks=level0,level1,isempty-vs-count,no-non-pod-global-static,no-qproperty-without-notify,no-lambda-in-connect
@@ -30,19 +31,32 @@ analyse_one() {
     touch "$2"
 }
 
-# One analysis per source, and again only when the source, a header or the rules have changed.
+# files_behind_sources: "source file" for every source of the dev build and every file of ours that it consists of.
+files_behind_sources() {
+    ninja -C build/dev -t deps | awk -v tree="$PWD/" '
+        /^[^ ]/ { source = ""; next }
+        # Ours, by their full names or, as the compiler cache names them, from the build folder.
+        index($1, tree) == 1 { path = substr($1, length(tree) + 1) }
+        index($1, "../../") == 1 { path = substr($1, 7) }
+        path != "" && path !~ /^(build|\.\.)\// { if (source == "") source = path; print source, path }
+        { path = "" }' | sort -u
+}
+
+# One analysis per source, and again only when the source, a header of ours that it includes or the rules have changed.
 check_tidy() {
-    [ -f build/dev/compile_commands.json ] || build dev
+    build dev
     local stamps=build/lint
     mkdir -p "$stamps"
-    local rules
-    rules=$(cat .clang-tidy "${headers[@]}" | sha256sum | cut -c1-16)
+    local -A files=()
+    local source file
+    while read -r source file; do
+        [[ $source != *.cpp ]] || files[$source]+=" $file"
+    done < <(files_behind_sources)
     local todo=()
-    local source
-    for source in "${sources[@]}"; do
-        grep -q "/$source\"" build/dev/compile_commands.json || continue
+    for source in "${!files[@]}"; do
         local stamp
-        stamp="$stamps/$(cat "$source" <(printf '%s%s' "$source" "$rules") | sha256sum | cut -c1-32)"
+        # shellcheck disable=SC2086 # names without blanks
+        stamp="$stamps/$(cat .clang-tidy scripts/lint.sh ${files[$source]} | sha256sum | cut -c1-32)"
         [ -e "$stamp" ] || todo+=("$source" "$stamp")
     done
     [ ${#todo[@]} -gt 0 ] || return 0
