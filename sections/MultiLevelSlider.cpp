@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <limits>
 
 namespace MV {
 
@@ -50,6 +51,12 @@ bool AreRising(const std::vector<SliderLevel>& levels)
 qint64 Distance(int from, int to)
 {
     return qint64(to) - from;
+}
+
+/// \p value, or the nearest that an int can hold.
+int ToInt(qint64 value)
+{
+    return int(qBound(qint64(std::numeric_limits<int>::min()), value, qint64(std::numeric_limits<int>::max())));
 }
 
 /// Where a level that has its own height stands.
@@ -120,10 +127,10 @@ int CMultiLevelSlider::LevelValue(std::size_t index) const
     return index < m_levels.size() ? m_levels[index].value : m_minimum;
 }
 
-/// How far a handle can move; 0 where there is no room.
+/// How far a handle can move; not above 0 where there is no room.
 int CMultiLevelSlider::TrackLength() const
 {
-    return qMax(0, width() - 2 * m_halfWidth - 1);
+    return width() - 2 * m_halfWidth - 1;
 }
 
 int CMultiLevelSlider::LevelPosition(std::size_t index) const
@@ -226,6 +233,8 @@ void CMultiLevelSlider::Select(std::size_t index)
     if (m_selectedIndex != index) {
         m_selectedIndex = index;
         Report(selectionChanged);
+        // Whatever the owner selected when it heard of it, a press selects what it hits.
+        m_selectedIndex = index;
     }
 }
 
@@ -253,7 +262,7 @@ void CMultiLevelSlider::mouseMoveEvent(QMouseEvent* event)
 void CMultiLevelSlider::DragTo(int cursorX)
 {
     const int track = TrackLength();
-    if (track == 0) {
+    if (track <= 0) {
         return;
     }
     const auto range = float(Distance(m_minimum, m_maximum));
@@ -273,13 +282,13 @@ int CMultiLevelSlider::KeepDistance(int value, int gap) const
     for (int i = m_draggedIndex - 1; i >= 0; --i) {
         const SliderLevel& before = m_levels[std::size_t(i)];
         if (!before.free && before.value >= value) {
-            value = qMax(value, before.value + gap);
+            value = qMax(value, ToInt(qint64(before.value) + gap));
         }
     }
     for (std::size_t i = std::size_t(m_draggedIndex) + 1; i < m_levels.size(); ++i) {
         const SliderLevel& after = m_levels[i];
         if (!after.free && after.value <= value) {
-            value = qMin(value, after.value - gap);
+            value = qMin(value, ToInt(qint64(after.value) - gap));
         }
     }
     return value;
@@ -288,8 +297,8 @@ int CMultiLevelSlider::KeepDistance(int value, int gap) const
 void CMultiLevelSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     if (m_draggedIndex >= 0) {
-        m_draggedIndex = -1;
         Report(valueChanged);
+        m_draggedIndex = -1;
     }
     QWidget::mouseReleaseEvent(event);
 }

@@ -67,7 +67,8 @@ public:
     BF::Result SetLevelValue(std::size_t index, int value);
     /// The value of a level; the minimum when there is no such level.
     int LevelValue(std::size_t index) const;
-    /// Left edge of a level's image; 0 when there is no such level or no room to move in.
+    /// Left edge of a level's image; 0 when there is no such level. On a slider narrower than an image those above the
+    /// minimum stand left of 0.
     int LevelPosition(std::size_t index) const;
 
     std::size_t SelectedIndex() const { return m_selectedIndex; }
@@ -76,8 +77,8 @@ public:
 
     // Set by the owner; an empty one is passed over.
     Callback valueChanging;    ///< A drag has moved a level.
-    Callback valueChanged;     ///< A drag has ended, whether or not it moved anything.
-    Callback selectionChanged; ///< A press has selected another level.
+    Callback valueChanged;     ///< A drag is ending, whether or not it moved anything.
+    Callback selectionChanged; ///< A press selects another level; it does so whatever the owner selects meanwhile.
     Callback spare;            ///< Never called.
 
 protected:

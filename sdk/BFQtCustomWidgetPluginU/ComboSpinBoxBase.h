@@ -9,11 +9,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <type_traits>
 #include <utility>
 
 /// What the two combo spin boxes have in common: a slider beside a spin box, one value, and one notion of a committed
 /// edit over both. \p SpinBox is a host spin box; the derived class is the QObject with the signals.
+///
+/// The slider may have limits of its own, which keep it to the part of the range that is of everyday use: its whole
+/// length stands for that part then. The spin box takes and shows the values beyond them all the same. For such a
+/// value the handle stands at the nearer end, and changes nothing until the user moves it.
 template <class SpinBox>
 class ComboSpinBoxBase : public QWidget
 {
@@ -82,6 +87,22 @@ public:
     {
         ChangeSilently([maximum](SpinBox& box) { box.setMaximum(maximum); });
     }
+
+    /// The lowest value that the slider reaches: its own limit, brought into the range, or the minimum where none is
+    /// set. A limit is kept as it was set, so that the range may come after it.
+    Number SliderMinimum() const { return BroughtIntoRange(m_sliderMinimum.value_or(Minimum())); }
+    void SetSliderMinimum(Number limit) { SetSliderLimit(m_sliderMinimum, limit); }
+    /// Gives the slider the range's minimum again.
+    void ResetSliderMinimum() { SetSliderLimit(m_sliderMinimum, std::nullopt); }
+    /// The highest value that the slider reaches, likewise; never below SliderMinimum().
+    Number SliderMaximum() const
+    {
+        return std::max(SliderMinimum(), BroughtIntoRange(m_sliderMaximum.value_or(Maximum())));
+    }
+    void SetSliderMaximum(Number limit) { SetSliderLimit(m_sliderMaximum, limit); }
+    /// Gives the slider the range's maximum again.
+    void ResetSliderMaximum() { SetSliderLimit(m_sliderMaximum, std::nullopt); }
+
     Number SingleStep() const { return m_spinBox->singleStep(); }
     void SetSingleStep(Number step)
     {
@@ -127,11 +148,19 @@ protected:
     }
 
 private:
+    Number BroughtIntoRange(Number value) const { return std::clamp(value, Minimum(), Maximum()); }
+
+    void SetSliderLimit(std::optional<Number>& limit, std::optional<Number> value)
+    {
+        limit = value;
+        FitSlider();
+    }
+
     /// The value of one slider step; wide ranges get coarser steps.
     double Resolution() const
     {
         constexpr double mostSteps = 1000000.0;
-        return std::max(FinestStep(), double(Maximum()) / mostSteps - double(Minimum()) / mostSteps);
+        return std::max(FinestStep(), double(SliderMaximum()) / mostSteps - double(SliderMinimum()) / mostSteps);
     }
 
     double FinestStep() const
@@ -143,17 +172,18 @@ private:
         }
     }
 
-    /// How many slider steps \p value is away from the minimum. The difference of the two may be out of reach.
+    /// How many slider steps \p value is away from the slider's minimum. The difference of the two may be out of reach.
     double StepsTo(Number value) const
     {
         const double resolution = Resolution();
-        return double(value) / resolution - double(Minimum()) / resolution;
+        return double(value) / resolution - double(SliderMinimum()) / resolution;
     }
 
     Number ValueAt(int position) const
     {
         const double resolution = Resolution();
-        const double value = std::min((double(Minimum()) / resolution + position) * resolution, double(Maximum()));
+        const double value =
+            std::min((double(SliderMinimum()) / resolution + position) * resolution, double(SliderMaximum()));
         if constexpr (std::is_floating_point_v<Number>) {
             return value;
         } else {
@@ -165,12 +195,13 @@ private:
     void FitSlider()
     {
         const QSignalBlocker silent(m_slider);
-        const int steps = int(std::ceil(StepsTo(Maximum()) - 0.001));
+        const int steps = int(std::ceil(StepsTo(SliderMaximum()) - 0.001));
         const double singleStep = std::min(double(SingleStep()) / Resolution(), double(steps));
         m_slider->setRange(0, steps);
         m_slider->setSingleStep(std::max(1, int(std::lround(singleStep))));
         m_slider->setPageStep(std::max(1, steps / 10));
-        m_slider->setValue(int(std::lround(StepsTo(Value()))));
+        const Number nearest = std::clamp(Value(), SliderMinimum(), SliderMaximum());
+        m_slider->setValue(int(std::lround(StepsTo(nearest))));
     }
 
     void FinishEdit()
@@ -183,5 +214,7 @@ private:
 
     ComboSlider* m_slider;
     SpinBox* m_spinBox;
+    std::optional<Number> m_sliderMinimum;
+    std::optional<Number> m_sliderMaximum;
     Number m_editStart{}; ///< The value before the user's current edit.
 };

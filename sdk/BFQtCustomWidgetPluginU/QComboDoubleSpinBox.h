@@ -11,6 +11,8 @@ class BFQTCUSTOMWIDGETPLUGINU_EXPORT QComboDoubleSpinBox : public ComboSpinBoxBa
     Q_PROPERTY(int decimals READ Decimals WRITE SetDecimals)
     Q_PROPERTY(double minimum READ Minimum WRITE SetMinimum)
     Q_PROPERTY(double maximum READ Maximum WRITE SetMaximum)
+    Q_PROPERTY(double sliderMinimum READ SliderMinimum WRITE SetSliderMinimum RESET ResetSliderMinimum)
+    Q_PROPERTY(double sliderMaximum READ SliderMaximum WRITE SetSliderMaximum RESET ResetSliderMaximum)
     Q_PROPERTY(double singleStep READ SingleStep WRITE SetSingleStep)
     Q_PROPERTY(QString prefix READ Prefix WRITE SetPrefix)
     Q_PROPERTY(QString suffix READ Suffix WRITE SetSuffix)

@@ -10,6 +10,8 @@ class BFQTCUSTOMWIDGETPLUGINU_EXPORT QComboSpinBox : public ComboSpinBoxBase<QSp
     Q_OBJECT
     Q_PROPERTY(int minimum READ Minimum WRITE SetMinimum)
     Q_PROPERTY(int maximum READ Maximum WRITE SetMaximum)
+    Q_PROPERTY(int sliderMinimum READ SliderMinimum WRITE SetSliderMinimum RESET ResetSliderMinimum)
+    Q_PROPERTY(int sliderMaximum READ SliderMaximum WRITE SetSliderMaximum RESET ResetSliderMaximum)
     Q_PROPERTY(int singleStep READ SingleStep WRITE SetSingleStep)
     Q_PROPERTY(QString prefix READ Prefix WRITE SetPrefix)
     Q_PROPERTY(QString suffix READ Suffix WRITE SetSuffix)

@@ -1,5 +1,6 @@
 #include "tests/unit/sections/FormChecks.h"
 
+#include "sections/MultiLevelSlider.h"
 #include "tests/support/Children.h"
 #include "ui/QtUiLoader.h"
 #include "ui/UiComponent.h"
@@ -11,6 +12,7 @@
 #include <QApplication>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 #include <QtTest>
 
@@ -59,6 +61,23 @@ bool HasLabel(const QWidget& section, const QWidget* box)
     return std::any_of(labels.cbegin(), labels.cend(), [box](const QLabel* label) {
         return label->buddy() == box && !label->text().isEmpty() && !label->toolTip().isEmpty();
     });
+}
+
+/// Everything that a refresh can change of the widgets in \p section: values, checks, texts and enabled states.
+QStringList State(const QWidget& section)
+{
+    QStringList state;
+    const auto widgets = section.findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        const bool enabled = widget->isEnabledTo(widget->parentWidget());
+        state.append(FormName(widget) + QLatin1Char(' ') + Shown(widget).toString() + QLatin1Char(' ') +
+                     widget->property("text").toString() + QLatin1String(enabled ? " enabled" : " disabled"));
+    }
+    const auto sliders = section.findChildren<MV::CMultiLevelSlider*>();
+    for (const MV::CMultiLevelSlider* slider : sliders) {
+        state.append(QStringLiteral("%1 to %2").arg(slider->LevelValue(0)).arg(slider->LevelValue(1)));
+    }
+    return state;
 }
 
 } // namespace
@@ -132,6 +151,17 @@ void Help(const QWidget& section, int count)
     }
 }
 
+void LayoutFile(const QWidget& section, const char* layout, int spacing)
+{
+    QCOMPARE(Child<QLayout>(&section, layout)->spacing(), spacing);
+    const QList<QWidget*> boxes = Boxes(section);
+    for (const QWidget* box : boxes) {
+        if (const auto* plain = qobject_cast<const QAbstractSpinBox*>(box)) {
+            QVERIFY2(plain->alignment() == (Qt::AlignRight | Qt::AlignVCenter), qPrintable(box->objectName()));
+        }
+    }
+}
+
 QVariantList ShownByAll(const QWidget& section)
 {
     QVariantList shown;
@@ -193,17 +223,26 @@ void NothingShown(SectionFixture& fixture, const QWidget& section, const std::fu
 }
 
 void FailedRead(SectionFixture& fixture, const QWidget& section, const std::function<BF::Result()>& refresh,
-                const char* box)
+                const std::function<void()>& change)
 {
     QFETCH(QString, operation);
-    const QVariant shown = Shown(Child<QWidget>(&section, box));
+    QCOMPARE(refresh(), BF::Results::Success);
+    const QVariantList shown = ShownByAll(section);
+    change();
     fixture.host.Faults().FailOperation(operation, BF::Results::Refused);
     for (const bool enabled : {true, false}) {
         Child<QGroupBox>(&section, "qtSectionGroupBox")->setEnabled(enabled);
+        const QStringList before = State(section);
         QCOMPARE(refresh(), BF::Results::Refused);
-        QCOMPARE(Child<QGroupBox>(&section, "qtSectionGroupBox")->isEnabled(), enabled);
-        QCOMPARE(Shown(Child<QWidget>(&section, box)), shown);
+        QCOMPARE(State(section), before);
         QVERIFY(fixture.TakeCalls().constLast().startsWith(QLatin1String("Scene.") + operation));
+    }
+
+    fixture.host.Faults().Clear();
+    QCOMPARE(refresh(), BF::Results::Success);
+    const QVariantList changed = ShownByAll(section);
+    for (int i = 0; i < shown.size(); ++i) {
+        QVERIFY2(changed.at(i) != shown.at(i), qPrintable(Boxes(section).at(i)->objectName()));
     }
 }
 

@@ -31,6 +31,10 @@ void Range(const QWidget& section);
 /// in a label that has it as buddy. No box tells of its value while the user types.
 void Help(const QWidget& section, int count);
 
+/// The layout file has been applied: it alone puts the numbers of the plain boxes to the right, and gives \p layout its
+/// \p spacing.
+void LayoutFile(const QWidget& section, const char* layout, int spacing);
+
 /// What all boxes of \p section show.
 QVariantList ShownByAll(const QWidget& section);
 
@@ -43,8 +47,9 @@ void AddNothingShownRows();
 void NothingShown(SectionFixture& fixture, const QWidget& section, const std::function<BF::Result()>& refresh,
                   const char* box);
 
-/// While the column "operation" names a failing one, \p refresh returns the failure and changes nothing.
+/// After a refresh and a \p change of what the host holds, while the operation named by the column "operation" fails,
+/// \p refresh returns the failure and changes nothing. The change must be one that every box would show.
 void FailedRead(SectionFixture& fixture, const QWidget& section, const std::function<BF::Result()>& refresh,
-                const char* box);
+                const std::function<void()>& change);
 
 } // namespace FormChecks

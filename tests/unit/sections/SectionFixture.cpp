@@ -129,6 +129,15 @@ QStringList SectionFixture::Lines(const QString& path)
     return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
+QStringList SavedAs(const char* group, QStringList lines)
+{
+#ifndef Q_OS_WIN
+    lines.sort();
+#endif
+    lines.prepend(QLatin1Char('[') + QLatin1String(group) + QLatin1Char(']'));
+    return lines;
+}
+
 void TypeInto(QWidget* box, const QString& text)
 {
     QAbstractSpinBox* spinBox = SpinBoxOf(box);

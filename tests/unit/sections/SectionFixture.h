@@ -85,6 +85,10 @@ private:
     int m_files = 0;
 };
 
+/// A file with these lines in \p group as the settings store writes it: sorted, but on Windows, where the keys stay as
+/// they were written.
+QStringList SavedAs(const char* group, QStringList lines);
+
 /// Types \p text into a box in place of what it shows, without a Return.
 void TypeInto(QWidget* box, const QString& text);
 /// The same, and commits it with Return.

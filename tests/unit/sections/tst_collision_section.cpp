@@ -8,30 +8,18 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QLabel>
-#include <QPushButton>
 
 using Record = MV::SoftClothCollisionData;
 using Section = MV::CSoftClothCollisionSection;
 
 Q_DECLARE_METATYPE(MV::SoftClothCollisionData)
 
-/// The collision section: form, refresh, edits and profile.
+/// The collision section's refresh, edits and profile.
 class TestCollisionSection : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void componentFindsEveryObject();
-    void formHasTypedObjects_data();
-    void formHasTypedObjects();
-    void boxesHaveSensibleRanges_data();
-    void boxesHaveSensibleRanges();
-    void boxesExplainThemselves();
-    void tabGoesFromTopToBottom();
-    void sectionStandsAtItsPlace();
-    void nothingHappensWithoutAHost();
-    void missingFormIsReturned();
     void recordHasTheHostsDefaults();
     void refreshShowsTheHostsValues_data();
     void refreshShowsTheHostsValues();
@@ -43,7 +31,8 @@ private Q_SLOTS:
     void refreshEnablesNothing();
     void checkBoxWritesItsFieldAndEnablesItsMargin_data();
     void checkBoxWritesItsFieldAndEnablesItsMargin();
-    void clearingTheRigidBoxDisablesItsMarginBeforeTheHostIsWritten();
+    void marginFollowsItsBoxBeforeTheHostIsWritten_data();
+    void marginFollowsItsBoxBeforeTheHostIsWritten();
     void committedMarginWritesItsField_data();
     void committedMarginWritesItsField();
     void editReadsTheSelectionAtThatMoment();
@@ -51,6 +40,7 @@ private Q_SLOTS:
     void profileIsSavedFromTheWidgets();
     void profileIsLoadedInOneWrite_data();
     void profileIsLoadedInOneWrite();
+    void loadIgnoresAFailedWrite();
     void loadingAProfileLeavesTheEnabledMarginsToTheNextRefresh();
 };
 
@@ -82,113 +72,6 @@ double ShownMargin(const QWidget& section, const char* name)
 }
 
 } // namespace
-
-void TestCollisionSection::componentFindsEveryObject()
-{
-    SectionFixture fixture;
-    Section& section = fixture.Make<Section>();
-    CSoftClothCollisionUiComponent component;
-    FormChecks::Component(component, *Child<QWidget>(&section, "SoftClothCollision"),
-                          "qtCollideWithRigidCheckBox qtSelfCollisionCheckBox "
-                          "qtCollideWithRigidMarginDoubleEXSpinBox qtSelfCollisionMarginDoubleEXSpinBox "
-                          "qtSectionGroupBox qtSelfCollisionMarginLabel qtSoftRigidCollisionMarginLabel "
-                          "qtExpandPushButton SoftClothCollision horizontalLayout_2 verticalLayout_4 "
-                          "horizontalLayout verticalLayout_3 verticalLayout verticalLayout_2");
-}
-
-void TestCollisionSection::formHasTypedObjects_data()
-{
-    using FormChecks::AddClassRow;
-    FormChecks::AddClassColumns();
-    AddClassRow("QCheckBox", "qtCollideWithRigidCheckBox qtSelfCollisionCheckBox");
-    AddClassRow("QDoubleSpinBoxEx", "qtCollideWithRigidMarginDoubleEXSpinBox qtSelfCollisionMarginDoubleEXSpinBox");
-    AddClassRow("QGroupBox", "qtSectionGroupBox");
-    AddClassRow("QLabel", "qtSelfCollisionMarginLabel qtSoftRigidCollisionMarginLabel");
-    AddClassRow("QPushButton", "qtExpandPushButton");
-    AddClassRow("QWidget", "SoftClothCollision");
-    AddClassRow("QHBoxLayout", "horizontalLayout horizontalLayout_2");
-    AddClassRow("QVBoxLayout", "verticalLayout verticalLayout_2 verticalLayout_3 verticalLayout_4");
-}
-
-void TestCollisionSection::formHasTypedObjects()
-{
-    SectionFixture fixture;
-    FormChecks::Classes(fixture.Make<Section>());
-}
-
-void TestCollisionSection::boxesHaveSensibleRanges_data()
-{
-    FormChecks::AddRangeColumns();
-    for (const char* name : {rigidMargin, selfMargin}) {
-        QTest::newRow(name) << QByteArray(name) << 0.0 << 1000.0 << 0.1 << QString();
-    }
-}
-
-void TestCollisionSection::boxesHaveSensibleRanges()
-{
-    SectionFixture fixture;
-    FormChecks::Range(fixture.Make<Section>());
-}
-
-void TestCollisionSection::boxesExplainThemselves()
-{
-    SectionFixture fixture;
-    Section& section = fixture.Make<Section>();
-    FormChecks::Help(section, 2);
-    for (const char* name : {rigidBox, selfBox}) {
-        QVERIFY(!Child<QCheckBox>(&section, name)->toolTip().isEmpty());
-    }
-}
-
-void TestCollisionSection::tabGoesFromTopToBottom()
-{
-    SectionFixture fixture;
-    fixture.Cloth().collision = {true, true, 1, 1};
-    Section& section = fixture.Make<Section>();
-    section.UpdateUi();
-    QVERIFY(fixture.Show(section));
-    FormChecks::TabOrder(section, "qtExpandPushButton qtCollideWithRigidCheckBox "
-                                  "qtCollideWithRigidMarginDoubleEXSpinBox qtSelfCollisionCheckBox "
-                                  "qtSelfCollisionMarginDoubleEXSpinBox");
-}
-
-void TestCollisionSection::sectionStandsAtItsPlace()
-{
-    SectionFixture fixture;
-    Section& section = fixture.Make<Section>();
-    QCOMPARE(fixture.initialised, BF::Results::Success);
-    QCOMPARE(section.GetSectionPage(), 4);
-    QCOMPARE(section.GetSectionOrder(), 32);
-    QCOMPARE(section.GetSectionApplications(), 7);
-    QCOMPARE(section.GetSectionWidget(), &section);
-    QVERIFY(section.AbleToShowSection());
-    QVERIFY(section.isHidden());
-    QVERIFY(section.GetSectionExpandState());
-    QTest::mouseClick(Child<QPushButton>(&section, "qtExpandPushButton"), Qt::LeftButton);
-    QVERIFY(!section.GetSectionExpandState());
-    QVERIFY(Child<QGroupBox>(&section, "qtSectionGroupBox")->isHidden());
-}
-
-void TestCollisionSection::nothingHappensWithoutAHost()
-{
-    SectionFixture fixture;
-    Section section(&fixture.plugin);
-    QCOMPARE(section.Init(QString(), QString(), nullptr), BF::Results::InvalidArgument);
-    QVERIFY(section.children().isEmpty());
-    QCOMPARE(section.UpdateUi(), BF::Results::InvalidArgument);
-    QCOMPARE(fixture.TakeCalls(), QStringList());
-}
-
-void TestCollisionSection::missingFormIsReturned()
-{
-    Host::HostApplication host;
-    MV::CPhysicsSoftClothPlugin plugin;
-    Section section(&plugin);
-    ExpectWarning(QStringLiteral("SoftClothCollision.ui"));
-    QCOMPARE(section.Init(QString(), QString(), &host), BF::Results::ResourceFailure);
-    QVERIFY(!section.AbleToShowSection());
-    QVERIFY(section.children().isEmpty());
-}
 
 void TestCollisionSection::recordHasTheHostsDefaults()
 {
@@ -266,9 +149,15 @@ void TestCollisionSection::failedReadLeavesEverything_data()
 void TestCollisionSection::failedReadLeavesEverything()
 {
     SectionFixture fixture;
+    fixture.Cloth().collision = {false, true, 1.5F, 2.25F};
     Section& section = fixture.Make<Section>();
     FormChecks::FailedRead(
-        fixture, section, [&] { return section.UpdateUi(); }, rigidMargin);
+        fixture, section, [&] { return section.UpdateUi(); }, [&] { fixture.Cloth().collision = Record(); });
+    // All of it would have been seen to change.
+    QVERIFY(IsEnabled(section, rigidMargin) && IsEnabled(section, rigidLabel));
+    QVERIFY(!IsEnabled(section, selfMargin) && !IsEnabled(section, selfLabel));
+    QVERIFY(Child<QCheckBox>(&section, rigidBox)->isChecked());
+    QVERIFY(!Child<QCheckBox>(&section, selfBox)->isChecked());
 }
 
 void TestCollisionSection::refreshEnablesNothing()
@@ -329,17 +218,36 @@ void TestCollisionSection::checkBoxWritesItsFieldAndEnablesItsMargin()
     QCOMPARE(fixture.Cloth().collision.selfCollision, type == 1 ? checked : !checked);
 }
 
-void TestCollisionSection::clearingTheRigidBoxDisablesItsMarginBeforeTheHostIsWritten()
+void TestCollisionSection::marginFollowsItsBoxBeforeTheHostIsWritten_data()
 {
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<QByteArray>("margin");
+    QTest::addColumn<QByteArray>("label");
+    QTest::addColumn<bool>("checked");
+    for (const bool checked : {true, false}) {
+        const char* const state = checked ? "on" : "off";
+        QTest::addRow("rigid %s", state) << QByteArray(rigidBox) << QByteArray(rigidMargin) << QByteArray(rigidLabel)
+                                         << checked;
+        QTest::addRow("self %s", state) << QByteArray(selfBox) << QByteArray(selfMargin) << QByteArray(selfLabel)
+                                        << checked;
+    }
+}
+
+void TestCollisionSection::marginFollowsItsBoxBeforeTheHostIsWritten()
+{
+    QFETCH(const QByteArray, box);
+    QFETCH(const QByteArray, margin);
+    QFETCH(const QByteArray, label);
+    QFETCH(const bool, checked);
     SectionFixture fixture;
+    fixture.Cloth().collision = {!checked, !checked, 7, 8};
     Section& section = fixture.Make<Section>();
     section.UpdateUi();
-    QVERIFY(IsEnabled(section, rigidMargin));
-    bool enabledAtWrite = true;
+    QVector<bool> enabledAtWrite;
     connect(&fixture.host.Journal(), &Host::CallJournal::EntryAdded, this,
-            [&] { enabledAtWrite = IsEnabled(section, rigidMargin) || IsEnabled(section, rigidLabel); });
-    Child<QCheckBox>(&section, rigidBox)->click();
-    QVERIFY(!enabledAtWrite);
+            [&] { enabledAtWrite << IsEnabled(section, margin) << IsEnabled(section, label); });
+    Child<QCheckBox>(&section, box)->click();
+    QCOMPARE(enabledAtWrite, QVector<bool>({checked, checked}));
 }
 
 void TestCollisionSection::committedMarginWritesItsField_data()
@@ -408,12 +316,10 @@ void TestCollisionSection::profileIsSavedFromTheWidgets()
     fixture.TakeCalls();
     const QStringList lines = fixture.Saved(section, "Collision");
     QCOMPARE(fixture.TakeCalls(), QStringList());
-    QCOMPARE(lines.first(), QStringLiteral("[Collision]"));
-    const QSet<QString> saved(lines.cbegin() + 1, lines.cend());
-    const QSet<QString> expected{QStringLiteral("Soft_Vs_Rigid_Collision=false"),
-                                 QStringLiteral("Soft_Vs_Rigid_Collision_Margin=1.25"),
-                                 QStringLiteral("Self_Collision=true"), QStringLiteral("Self_Collision_Margin=0.5")};
-    QCOMPARE(saved, expected);
+    QCOMPARE(lines, SavedAs("Collision",
+                            {QStringLiteral("Soft_Vs_Rigid_Collision=false"),
+                             QStringLiteral("Soft_Vs_Rigid_Collision_Margin=1.25"),
+                             QStringLiteral("Self_Collision=true"), QStringLiteral("Self_Collision_Margin=0.5")}));
 }
 
 void TestCollisionSection::profileIsLoadedInOneWrite_data()
@@ -452,6 +358,25 @@ void TestCollisionSection::profileIsLoadedInOneWrite()
     QCOMPARE(Child<QCheckBox>(&section, selfBox)->isChecked(), sent.selfCollision);
     QVERIFY(qAbs(ShownMargin(section, rigidMargin) - double(sent.rigidMargin)) < 0.0005);
     QCOMPARE(ShownMargin(section, selfMargin), qMin(double(sent.selfMargin), 1000.0));
+}
+
+void TestCollisionSection::loadIgnoresAFailedWrite()
+{
+    SectionFixture fixture;
+    fixture.Cloth().collision = {true, false, 3, 4};
+    Section& section = fixture.Make<Section>();
+    section.UpdateUi();
+    fixture.host.Faults().FailOperation(QStringLiteral("SetSoftClothCollision"), BF::Results::Refused);
+    fixture.TakeCalls();
+    fixture.Load(section, "Collision",
+                 {QStringLiteral("Self_Collision=true"), QStringLiteral("Self_Collision_Margin=2.5")});
+    QCOMPARE(fixture.TakeCalls(), QStringList(WriteCall(fixture, 4, {false, true, 0, 2.5F}, false, "0x80000006")));
+    QVERIFY(!Child<QCheckBox>(&section, rigidBox)->isChecked());
+    QVERIFY(Child<QCheckBox>(&section, selfBox)->isChecked());
+    QCOMPARE(ShownMargin(section, rigidMargin), 0.0);
+    QCOMPARE(ShownMargin(section, selfMargin), 2.5);
+    QCOMPARE(fixture.Cloth().collision.rigidMargin, 3.0F);
+    QCOMPARE(fixture.Cloth().collision.selfMargin, 4.0F);
 }
 
 void TestCollisionSection::loadingAProfileLeavesTheEnabledMarginsToTheNextRefresh()

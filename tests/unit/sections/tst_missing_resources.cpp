@@ -14,6 +14,7 @@ class TestMissingResources : public TestCase
 private Q_SLOTS:
     void missingImageEndsTheWindSection_data();
     void missingImageEndsTheWindSection();
+    void hoverImageOfAnotherSizeEndsTheWindSection();
     void missingContainerEndsTheWindSection();
     void emptyPropertyFormIsLivedWith();
     void emptyWindFormIsLivedWith();
@@ -75,6 +76,17 @@ void TestMissingResources::missingImageEndsTheWindSection()
     auto& section = m_fixture->Make<MV::CSoftClothWindSection>();
     QCOMPARE(m_fixture->initialised, BF::Result(code));
     QCOMPARE(section.findChild<MV::CMultiLevelSlider*>()->LevelValue(1), code == 0 ? 10 : 0);
+}
+
+void TestMissingResources::hoverImageOfAnotherSizeEndsTheWindSection()
+{
+    for (const char* name : {"forms", "unselect", "select", "large_hover", "disable"}) {
+        Register(QString::fromLatin1(name));
+    }
+    auto& section = m_fixture->Make<MV::CSoftClothWindSection>();
+    // What the slider's set-up answers, as it stands.
+    QCOMPARE(m_fixture->initialised, BF::Results::InvalidArgument);
+    QCOMPARE(section.findChild<MV::CMultiLevelSlider*>()->LevelValue(1), 0);
 }
 
 void TestMissingResources::missingContainerEndsTheWindSection()

@@ -90,12 +90,14 @@ void TestMultiLevelSlider::initChecksInOrder_data()
     row("no levels", 0, [](Setup s) { s.levels.clear(); });
     row("no normal image", invalid, [](Setup s) { s.normal.clear(); });
     row("empty normal image", invalid, [](Setup s) { s.normal.reset(new QPixmap); });
+    row("empty selected image", invalid, [](Setup s) { s.selected.reset(new QPixmap); });
     row("no selected image", invalid, [](Setup s) { s.selected.clear(); });
     row("selected image not needed", 0, [](Setup s) {
         s.useSelected = false;
         s.selected.clear();
     });
     row("no disabled image", noDisabled, [](Setup s) { s.disabled.clear(); });
+    row("empty disabled image", noDisabled, [](Setup s) { s.disabled.reset(new QPixmap); });
     row("no hover image", 0, [](Setup s) { s.hover.clear(); });
     row("disabled image of another size", 0, [](Setup s) { s.disabled = MakeImage(Qt::gray, {9, 9}); });
     row("wider selected image", invalid, [](Setup s) { s.selected = MakeImage(Qt::red, {9, 8}); });
@@ -238,7 +240,12 @@ void TestMultiLevelSlider::positionFollowsTheValue_data()
     row("large numbers stay exact", 100, 8, 100000000, 100000010, 100000005, 46);
     row("room for one pixel", 10, 8, 0, 10, 10, 1);
     row("no room", 9, 8, 0, 10, 10, 0);
-    row("narrower than a handle", 4, 8, 0, 10, 10, 0);
+    row("narrower than a handle, left end", 4, 8, 0, 10, 0, 0);
+    row("narrower than a handle, middle", 4, 8, 0, 10, 5, -3);
+    row("narrower than a handle, right end", 4, 8, 0, 10, 10, -5);
+    row("one pixel too narrow", 8, 8, 0, 10, 10, -1);
+    row("less than half a pixel to the left", 8, 8, 0, 10, 4, 0);
+    row("half a pixel to the left", 8, 8, 0, 10, 5, -1);
 }
 
 void TestMultiLevelSlider::positionFollowsTheValue()

@@ -1,6 +1,8 @@
 #include "tests/support/TestCase.h"
 #include "tests/unit/sections/SliderWindow.h"
 
+#include <limits>
+
 Q_DECLARE_METATYPE(std::vector<int>)
 Q_DECLARE_METATYPE(std::vector<MV::SliderLevel>)
 
@@ -19,11 +21,14 @@ private Q_SLOTS:
     void dragKeepsItsDistance();
     void nearestNeighbourIsAskedFirst_data();
     void nearestNeighbourIsAskedFirst();
+    void distanceEndsWhereIntDoes_data();
+    void distanceEndsWhereIntDoes();
     void narrowSliderKeepsAWiderDistance_data();
     void narrowSliderKeepsAWiderDistance();
     void dragCountsFromZeroWhateverTheMinimum_data();
     void dragCountsFromZeroWhateverTheMinimum();
     void everyMoveIsTold();
+    void dragGoesOnUntilItsEndIsTold();
     void anyReleaseEndsADrag_data();
     void anyReleaseEndsADrag();
     void pressAndReleaseWithoutAMoveIsADrag();
@@ -177,6 +182,35 @@ void TestMultiLevelSliderDrag::nearestNeighbourIsAskedFirst()
     QTEST(window.slider.LevelValue(std::size_t(dragged)), "value");
 }
 
+void TestMultiLevelSliderDrag::distanceEndsWhereIntDoes_data()
+{
+    QTest::addColumn<int>("other");
+    QTest::addColumn<int>("dragged");
+    QTest::addColumn<int>("value");
+    constexpr int lowest = std::numeric_limits<int>::min();
+    constexpr int highest = std::numeric_limits<int>::max();
+    QTest::newRow("above the highest") << highest << 1 << highest;
+    QTest::newRow("below the lowest") << lowest << 0 << lowest;
+}
+
+void TestMultiLevelSliderDrag::distanceEndsWhereIntDoes()
+{
+    QFETCH(int, other);
+    QFETCH(int, dragged);
+    SliderSetup setup;
+    setup.minimum = std::numeric_limits<int>::min();
+    setup.maximum = std::numeric_limits<int>::max();
+    const std::size_t neighbour = dragged == 0 ? 1 : 0;
+    setup.levels[neighbour].selectable = false;
+    SliderWindow window(setup);
+    window.slider.SetLevelValue(neighbour, other);
+    window.Press(50);
+    QCOMPARE(window.slider.SelectedIndex(), std::size_t(dragged));
+    window.Move(60);
+    window.Release(60);
+    QTEST(window.slider.LevelValue(std::size_t(dragged)), "value");
+}
+
 void TestMultiLevelSliderDrag::narrowSliderKeepsAWiderDistance_data()
 {
     QTest::addColumn<int>("width");
@@ -238,6 +272,25 @@ void TestMultiLevelSliderDrag::everyMoveIsTold()
     window.Move(20);
     QCOMPARE(window.Take(), QStringList());
     QCOMPARE(window.Values(), std::vector<int>({0, 5}));
+}
+
+void TestMultiLevelSliderDrag::dragGoesOnUntilItsEndIsTold()
+{
+    SliderWindow window;
+    window.slider.valueChanged = [&window](std::size_t /*index*/) {
+        const QPoint middle(50, 12);
+        QMouseEvent move(QEvent::MouseMove, middle, window.slider.mapToGlobal(middle), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(&window.slider, &move);
+    };
+    window.Press(95);
+    window.Take();
+    window.Release(95);
+    QCOMPARE(window.Values(), std::vector<int>({0, 5}));
+    QCOMPARE(window.Take(), QStringList(QStringLiteral("changing 1")));
+    window.Move(70);
+    QCOMPARE(window.Values(), std::vector<int>({0, 5}));
+    QCOMPARE(window.Take(), QStringList());
 }
 
 void TestMultiLevelSliderDrag::anyReleaseEndsADrag_data()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void otherButtonsPressNothing_data();
     void otherButtonsPressNothing();
     void selectedHandleIsNotSelectedAgain();
+    void pressSelectsWhateverTheOwnerDoesMeanwhile();
     void hoverTakesTheLastHandleUnderTheCursor_data();
     void hoverTakesTheLastHandleUnderTheCursor();
     void hoverFollowsDuringADrag();
@@ -142,6 +143,16 @@ void TestMultiLevelSliderMouse::selectedHandleIsNotSelectedAgain()
     QCOMPARE(window.Take(), QStringList());
     window.Release(3);
     QCOMPARE(window.Take(), QStringList(QStringLiteral("changed 0")));
+}
+
+void TestMultiLevelSliderMouse::pressSelectsWhateverTheOwnerDoesMeanwhile()
+{
+    SliderWindow window;
+    window.slider.selectionChanged = [&window](std::size_t /*index*/) { window.slider.SetSelectedIndex(0); };
+    window.Press(95);
+    QCOMPARE(window.slider.SelectedIndex(), std::size_t(1));
+    window.Release(95);
+    QCOMPARE(window.Take(), QStringList(QStringLiteral("changed 1")));
 }
 
 void TestMultiLevelSliderMouse::hoverTakesTheLastHandleUnderTheCursor_data()

@@ -4,8 +4,15 @@
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
+#include <QMouseEvent>
+
+#include <functional>
 
 using MV::CMultiLevelSlider;
+
+/// What a user or the slider's owner does.
+using Change = std::function<void(SliderWindow&)>;
+Q_DECLARE_METATYPE(Change)
 
 /// What the slider draws, pixel by pixel.
 class TestMultiLevelSliderPainting : public TestCase
@@ -20,12 +27,15 @@ private Q_SLOTS:
     void missingHoverImageShowsTheNormalOne();
     void laterHandleLiesOnTop();
     void ownHeightMovesTheImageOnly();
+    void missingRoomPutsHandlesToTheLeft_data();
     void missingRoomPutsHandlesToTheLeft();
     void nothingIsDrawnBeforeInit();
     void nothingIsDrawnAfterAFailedInit();
     void doubleResolutionIsDrawnPixelByPixel();
     void labelStandsBesideItsHandle();
     void paintingALabelComesToAnEnd();
+    void everyChangeIsPainted_data();
+    void everyChangeIsPainted();
 };
 
 namespace {
@@ -84,6 +94,54 @@ void Compare(const QImage& actual, const QImage& expected)
                                          expected.pixelColor(x, y).name(QColor::HexArgb))));
         }
     }
+}
+
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget& widget)
+        : m_widget(widget)
+    {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        m_count += event->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+
+    /// Waits until the window is shown and nothing is painted any more, and counts from there.
+    bool CameToRest()
+    {
+        if (!QTest::qWaitForWindowExposed(m_widget.window())) {
+            return false;
+        }
+        for (int i = 0; i < 60; ++i) {
+            Forget();
+            QTest::qWait(50);
+            if (m_count == 0) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    int Count() const { return m_count; }
+    void Forget() { m_count = 0; }
+
+private:
+    QWidget& m_widget;
+    int m_count = 0;
+};
+
+/// Sends the slider a mouse event of its own at \p x, in the middle of the handles.
+void Send(SliderWindow& window, QEvent::Type type, int x, Qt::MouseButton button)
+{
+    const QPoint position(x, 12);
+    QMouseEvent event(type, position, window.slider.mapToGlobal(position), button, button, Qt::NoModifier);
+    QApplication::sendEvent(&window.slider, &event);
 }
 
 const QColor normal = Qt::blue;
@@ -206,12 +264,26 @@ void TestMultiLevelSliderPainting::ownHeightMovesTheImageOnly()
     window.Release(95, 9);
 }
 
+void TestMultiLevelSliderPainting::missingRoomPutsHandlesToTheLeft_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("lineFrom");
+    QTest::addColumn<int>("lineTo");
+    QTest::addColumn<int>("second");
+    QTest::newRow("as wide as a handle needs") << 9 << 4 << 4 << 0;
+    QTest::newRow("narrower, the line runs backwards") << 6 << 1 << 4 << -3;
+}
+
 void TestMultiLevelSliderPainting::missingRoomPutsHandlesToTheLeft()
 {
-    SliderWindow window(SliderSetup(), 9);
-    Canvas expected(9);
-    expected.Row(4, 4, 5, lineColor);
-    expected.Image(0, 8, MakePixmap(selected)).Image(0, 8, MakePixmap(normal));
+    QFETCH(int, width);
+    QFETCH(int, lineFrom);
+    QFETCH(int, lineTo);
+    QFETCH(int, second);
+    SliderWindow window(SliderSetup(), width);
+    Canvas expected(width);
+    expected.Row(lineFrom, lineTo, 5, lineColor);
+    expected.Image(0, 8, MakePixmap(selected)).Image(second, 8, MakePixmap(normal));
     Compare(window.Picture(), expected.Result());
 }
 
@@ -272,35 +344,44 @@ void TestMultiLevelSliderPainting::labelStandsBesideItsHandle()
 
 void TestMultiLevelSliderPainting::paintingALabelComesToAnEnd()
 {
-    class PaintCounter : public QObject
-    {
-    public:
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            count += event->type() == QEvent::Paint ? 1 : 0;
-            return QObject::eventFilter(watched, event);
-        }
-        int count = 0;
-    };
     SliderSetup setup;
     setup.levels[1].label = new QLabel(QStringLiteral("7"));
     setup.levels[1].labelWidth = 15;
     setup.levels[1].labelHeight = 12;
     SliderWindow window(setup);
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    PaintCounter paints;
-    window.slider.installEventFilter(&paints);
-    bool cameToRest = false;
-    for (int i = 0; i < 60 && !cameToRest; ++i) {
-        const int before = paints.count;
-        QTest::qWait(50);
-        cameToRest = paints.count == before;
-    }
-    QVERIFY(cameToRest);
-    paints.count = 0;
+    PaintCounter paints(window.slider);
+    QVERIFY(paints.CameToRest());
     window.slider.update();
     QTest::qWait(100);
-    QVERIFY(paints.count >= 1 && paints.count <= 2);
+    QVERIFY(paints.Count() >= 1 && paints.Count() <= 2);
+}
+
+void TestMultiLevelSliderPainting::everyChangeIsPainted_data()
+{
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char* name, const Change& change) { QTest::newRow(name) << change; };
+    row("value set by the owner", [](SliderWindow& window) { window.slider.SetLevelValue(1, 5); });
+    row("selection set by the owner", [](SliderWindow& window) { window.slider.SetSelectedIndex(1); });
+    row("set up anew", [](SliderWindow& window) { SliderSetup().Apply(window.slider); });
+    // Each event alone: the window system would send a move along with a press, and a hover with a drag.
+    row("press", [](SliderWindow& window) { Send(window, QEvent::MouseButtonPress, 95, Qt::LeftButton); });
+    row("step of a drag", [](SliderWindow& window) {
+        Send(window, QEvent::MouseButtonPress, 95, Qt::LeftButton);
+        QVERIFY(PaintCounter(window.slider).CameToRest());
+        Send(window, QEvent::MouseMove, 50, Qt::LeftButton);
+    });
+    row("hover", [](SliderWindow& window) { Send(window, QEvent::MouseMove, 95, Qt::NoButton); });
+}
+
+void TestMultiLevelSliderPainting::everyChangeIsPainted()
+{
+    QFETCH(Change, change);
+    SliderWindow window;
+    PaintCounter paints(window.slider);
+    QVERIFY(paints.CameToRest());
+    change(window);
+    paints.Forget();
+    QTRY_VERIFY(paints.Count() >= 1);
 }
 
 QTEST_MAIN(TestMultiLevelSliderPainting)

@@ -20,7 +20,10 @@ private Q_SLOTS:
     void formHasTypedObjects();
     void boxesHaveSensibleRanges_data();
     void boxesHaveSensibleRanges();
+    void slidersCoverTheUsualPercentages_data();
+    void slidersCoverTheUsualPercentages();
     void boxesExplainThemselves();
+    void layoutFileIsApplied();
     void freshFormShowsTheHostsDefaults();
     void tabGoesThroughTheBoxesFromTopToBottom();
     void sectionStandsAtItsPlace();
@@ -77,8 +80,9 @@ void TestPropertyForm::boxesHaveSensibleRanges_data()
     QTest::newRow("drag") << QByteArray("qtDragDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
     QTest::newRow("tether limit") << QByteArray("qtTetherLimitDoubleEXSpinBox") << 0.0 << 10.0 << 0.05
                                   << QStringLiteral("");
-    QTest::newRow("stiffness") << QByteArray("qtStiffnessCombospinbox") << 0.0 << 100.0 << 1.0 << QStringLiteral(" %");
-    QTest::newRow("bending") << QByteArray("qtBendingCombospinbox") << 0.0 << 100.0 << 1.0 << QStringLiteral(" %");
+    QTest::newRow("stiffness") << QByteArray("qtStiffnessCombospinbox") << -100.0 << 100.0 << 1.0
+                               << QStringLiteral(" %");
+    QTest::newRow("bending") << QByteArray("qtBendingCombospinbox") << -100.0 << 100.0 << 1.0 << QStringLiteral(" %");
     QTest::newRow("tether stiffness") << QByteArray("qtTetherStiffnessCombospinbox") << 1.0 << 101.0 << 1.0
                                       << QStringLiteral("");
     QTest::newRow("inertia, in tenths") << QByteArray("qtInertiaScaleCombospinbox") << 0.0 << 20.0 << 1.0
@@ -91,10 +95,37 @@ void TestPropertyForm::boxesHaveSensibleRanges()
     FormChecks::Range(fixture.Make<Section>());
 }
 
+void TestPropertyForm::slidersCoverTheUsualPercentages_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<int>("lowest");
+    QTest::addColumn<int>("highest");
+    QTest::newRow("stiffness") << QByteArray("qtStiffnessCombospinbox") << 0 << 100;
+    QTest::newRow("bending") << QByteArray("qtBendingCombospinbox") << 0 << 100;
+    QTest::newRow("tether stiffness") << QByteArray("qtTetherStiffnessCombospinbox") << 1 << 101;
+    QTest::newRow("inertia, in tenths") << QByteArray("qtInertiaScaleCombospinbox") << 0 << 20;
+}
+
+void TestPropertyForm::slidersCoverTheUsualPercentages()
+{
+    QFETCH(QByteArray, box);
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    const auto* widget = Child<QWidget>(&section, box);
+    QTEST(widget->property("sliderMinimum").toInt(), "lowest");
+    QTEST(widget->property("sliderMaximum").toInt(), "highest");
+}
+
 void TestPropertyForm::boxesExplainThemselves()
 {
     SectionFixture fixture;
     FormChecks::Help(fixture.Make<Section>(), 10);
+}
+
+void TestPropertyForm::layoutFileIsApplied()
+{
+    SectionFixture fixture;
+    FormChecks::LayoutFile(fixture.Make<Section>(), "verticalLayout_6", 2);
 }
 
 void TestPropertyForm::freshFormShowsTheHostsDefaults()

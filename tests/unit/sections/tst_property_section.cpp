@@ -109,6 +109,8 @@ void TestPropertySection::commitWritesOneField_data()
     row("drag", "qtDragDoubleEXSpinBox", "0.3", 6, &Record::drag, 0.3F);
     row("stiffness", "qtStiffnessCombospinbox", "75", 7, &Record::stiffness, 0.25F);
     row("bending", "qtBendingCombospinbox", "100", 9, &Record::bending, 0.0F);
+    row("stiffer than full stiffness", "qtStiffnessCombospinbox", "-25", 7, &Record::stiffness, 1.25F);
+    row("stiffer than full bending", "qtBendingCombospinbox", "-50", 9, &Record::bending, 1.5F);
 }
 
 void TestPropertySection::commitWritesOneField()
@@ -274,7 +276,10 @@ void TestPropertySection::refreshShowsTheHostsValue_data()
     row("stiffness 0", &Record::stiffness, 0.0F, "qtStiffnessCombospinbox", 100);
     row("bending 1", &Record::bending, 1.0F, "qtBendingCombospinbox", 0);
     row("bending half away from zero", &Record::bending, 0.125F, "qtBendingCombospinbox", 88);
-    row("bending above 1 is below the range", &Record::bending, 1.125F, "qtBendingCombospinbox", 0);
+    row("bending above 1 shows a negative percentage", &Record::bending, 1.125F, "qtBendingCombospinbox", -13);
+    row("stiffness above 1 shows a negative percentage", &Record::stiffness, 1.25F, "qtStiffnessCombospinbox", -25);
+    row("bending 2", &Record::bending, 2.0F, "qtBendingCombospinbox", -100);
+    row("bending below the range", &Record::bending, 2.5F, "qtBendingCombospinbox", -100);
     row("bending 0", &Record::bending, 0.0F, "qtBendingCombospinbox", 100);
     row("tether stiffness 1", &Record::tetherStiffness, 1.0F, "qtTetherStiffnessCombospinbox", 1);
     row("tether stiffness 0", &Record::tetherStiffness, 0.0F, "qtTetherStiffnessCombospinbox", 101);
@@ -335,10 +340,11 @@ void TestPropertySection::failedReadLeavesEverything_data()
 void TestPropertySection::failedReadLeavesEverything()
 {
     SectionFixture fixture;
-    fixture.Cloth().property.mass = 16;
+    fixture.Cloth().property = {16,    120,  0.5F, 1.25F, 0.1F, 0.2F, 0.3F, 0.25F, 11,
+                                0.75F, 0.7F, 0.6F, 0.5F,  15,   16,   17,   {}};
     Section& section = fixture.Make<Section>();
     FormChecks::FailedRead(
-        fixture, section, [&] { return section.UpdateUi(); }, "qtMassEXSpinBox");
+        fixture, section, [&] { return section.UpdateUi(); }, [&] { fixture.Cloth().property = Record(); });
 }
 
 void TestPropertySection::refreshEnablesNothing()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void boxesHaveSensibleRanges_data();
     void boxesHaveSensibleRanges();
     void boxesExplainThemselves();
+    void layoutFileIsApplied();
     void freshFormShowsTheHostsDefaults();
     void tabGoesThroughTheBoxesFromTopToBottom();
     void sectionStandsAtItsPlace();
@@ -35,7 +36,9 @@ private Q_SLOTS:
     void sliderIsSetUpInItsContainer();
     void sliderImagesHaveOneSize_data();
     void sliderImagesHaveOneSize();
-    void handlesAreDrawnInTheScreensResolution();
+    void handlesShowTheirStateInTheScreensResolution_data();
+    void handlesShowTheirStateInTheScreensResolution();
+    void lineIsLightGray();
 };
 
 namespace {
@@ -43,6 +46,14 @@ namespace {
 Slider& SliderOf(const QWidget& section)
 {
     return *Child<QWidget>(&section, "qtRandomFactorWidget")->findChild<Slider*>();
+}
+
+/// Moves the mouse to a point of the slider, no button held.
+void HoverAt(Slider& slider, const QPoint& position)
+{
+    QMouseEvent move(QEvent::MouseMove, position, slider.mapToGlobal(position), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&slider, &move);
 }
 
 } // namespace
@@ -116,6 +127,12 @@ void TestWindForm::boxesExplainThemselves()
     QVERIFY(!SliderOf(section).accessibleName().isEmpty());
     QCOMPARE(Child<QLabel>(&section, "label_11")->buddy(), container);
     QCOMPARE(container->focusProxy(), &SliderOf(section));
+}
+
+void TestWindForm::layoutFileIsApplied()
+{
+    SectionFixture fixture;
+    FormChecks::LayoutFile(fixture.Make<Section>(), "verticalLayout_9", 0);
 }
 
 void TestWindForm::freshFormShowsTheHostsDefaults()
@@ -231,17 +248,40 @@ void TestWindForm::sliderImagesHaveOneSize()
     QCOMPARE(fine.devicePixelRatio(), 2.0);
 }
 
-void TestWindForm::handlesAreDrawnInTheScreensResolution()
+void TestWindForm::handlesShowTheirStateInTheScreensResolution_data()
 {
+    QTest::addColumn<int>("handle");
+    QTest::addColumn<bool>("hovered");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QString>("state");
+    QTest::newRow("not selected") << 0 << false << true << QStringLiteral("unselect");
+    QTest::newRow("selected") << 1 << false << true << QStringLiteral("select");
+    QTest::newRow("not selected, under the cursor") << 0 << true << true << QStringLiteral("hover");
+    QTest::newRow("selected, under the cursor") << 1 << true << true << QStringLiteral("select");
+    QTest::newRow("not selected, section disabled") << 0 << true << false << QStringLiteral("disable");
+    QTest::newRow("selected, section disabled") << 1 << false << false << QStringLiteral("disable");
+}
+
+void TestWindForm::handlesShowTheirStateInTheScreensResolution()
+{
+    QFETCH(int, handle);
+    QFETCH(bool, hovered);
+    QFETCH(bool, enabled);
+    QFETCH(QString, state);
     SectionFixture fixture;
     Section& section = fixture.Make<Section>();
     QVERIFY(fixture.Show(section));
+    Slider& slider = SliderOf(section);
+    const int left = slider.LevelPosition(std::size_t(handle));
+    if (hovered) {
+        HoverAt(slider, QPoint(left + 8, 16));
+    }
+    section.EnableSection(enabled);
     const int ratio = qRound(qApp->devicePixelRatio());
     const QString variant = ratio == 1 ? QStringLiteral(".png") : QStringLiteral("@2x.png");
-    const QImage expected(QStringLiteral(":/plugin/MVPhysicsSoftClothSection/icon/BTN_Diamond_select") + variant);
-    const Slider& slider = SliderOf(section);
-    const QImage drawn = SliderOf(section).grab().toImage();
-    const QPoint corner(slider.LevelPosition(1) * ratio, 8 * ratio);
+    const QImage expected(QStringLiteral(":/plugin/MVPhysicsSoftClothSection/icon/BTN_Diamond_") + state + variant);
+    const QImage drawn = slider.grab().toImage();
+    const QPoint corner(left * ratio, 8 * ratio);
     int compared = 0;
     for (int y = 0; y < expected.height(); ++y) {
         for (int x = 0; x < expected.width(); ++x) {
@@ -252,6 +292,22 @@ void TestWindForm::handlesAreDrawnInTheScreensResolution()
         }
     }
     QVERIFY(compared > 100 * ratio * ratio);
+}
+
+void TestWindForm::lineIsLightGray()
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    QVERIFY(fixture.Show(section));
+    Slider& slider = SliderOf(section);
+    const QImage drawn = slider.grab().toImage();
+    const int ratio = qRound(qApp->devicePixelRatio());
+    // A hair line is one of the screen's pixels thick; it lies somewhere in its row.
+    QList<QColor> colors;
+    for (int y = 5 * ratio; y < 6 * ratio; ++y) {
+        colors.append(drawn.pixelColor(drawn.width() / 2, y));
+    }
+    QVERIFY(colors.contains(QColor(200, 200, 200)));
 }
 
 QTEST_MAIN(TestWindForm)

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void commitWritesItsGroup();
     void commitSendsAllThreeAxes();
     void draggingAHandleWritesOnce();
+    void handlesDoNotCross_data();
+    void handlesDoNotCross();
     void clickingAHandleWritesWhatItShows();
     void commitReadsTheSelectionAtThatMoment();
     void commitWithoutSelectionIsSentAllTheSame();
@@ -157,6 +159,32 @@ void TestWindSection::draggingAHandleWritesOnce()
     sent.randomFactor = {0, 5};
     QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call(windWrite, Arguments(fixture, 3, sent))));
     COMPARE_RECORDS(fixture, fixture.Cloth().wind, sent);
+}
+
+void TestWindSection::handlesDoNotCross_data()
+{
+    QTest::addColumn<int>("dragged");
+    QTest::addColumn<int>("direction");
+    QTest::newRow("second past the first") << 1 << -1;
+    QTest::newRow("first past the second") << 0 << 1;
+}
+
+void TestWindSection::handlesDoNotCross()
+{
+    QFETCH(int, dragged);
+    QFETCH(int, direction);
+    SectionFixture fixture;
+    fixture.Cloth().wind.randomFactor = {3, 7};
+    Section& section = fixture.Make<Section>();
+    QCOMPARE(section.UpdateUi(), BF::Results::Success);
+    QVERIFY(fixture.Show(section));
+    Slider& slider = SliderOf(section);
+    Drag(slider, std::size_t(dragged), direction * slider.width());
+    QTest::mouseRelease(&slider, Qt::LeftButton);
+    QVERIFY(slider.LevelValue(0) < slider.LevelValue(1));
+    // As far as it can go: next to the other, which stays.
+    QCOMPARE(slider.LevelValue(0), dragged == 0 ? 6 : 3);
+    QCOMPARE(slider.LevelValue(1), dragged == 1 ? 4 : 7);
 }
 
 void TestWindSection::clickingAHandleWritesWhatItShows()
@@ -305,11 +333,10 @@ void TestWindSection::failedReadLeavesEverything_data()
 void TestWindSection::failedReadLeavesEverything()
 {
     SectionFixture fixture;
-    fixture.Cloth().wind.frequency = 5;
+    fixture.Cloth().wind = {{1, 2, 3}, {4, 5, 6}, 7, {3, 8}};
     Section& section = fixture.Make<Section>();
     FormChecks::FailedRead(
-        fixture, section, [&] { return section.UpdateUi(); }, "qtFrequencyCombodoublespinbox");
-    QCOMPARE(SliderOf(section).LevelValue(1), 10);
+        fixture, section, [&] { return section.UpdateUi(); }, [&] { fixture.Cloth().wind = Record(); });
 }
 
 void TestWindSection::refreshEnablesNothing()

@@ -252,8 +252,9 @@ void TestComboSpinBox::prefixAndSuffixAreShown()
 void TestComboSpinBox::propertiesAreThoseOfADesigner()
 {
     QFETCH_GLOBAL(bool, isDouble);
-    QStringList expected{QStringLiteral("minimum"), QStringLiteral("maximum"), QStringLiteral("singleStep"),
-                         QStringLiteral("prefix"),  QStringLiteral("suffix"),  QStringLiteral("value")};
+    QStringList expected{QStringLiteral("minimum"),       QStringLiteral("maximum"),    QStringLiteral("sliderMinimum"),
+                         QStringLiteral("sliderMaximum"), QStringLiteral("singleStep"), QStringLiteral("prefix"),
+                         QStringLiteral("suffix"),        QStringLiteral("value")};
     if (isDouble) {
         expected.prepend(QStringLiteral("decimals"));
     }
