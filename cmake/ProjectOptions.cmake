@@ -13,9 +13,12 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
-set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+# Visual Studio and other generators with several configurations put each one's files into a subfolder, but not where
+# the folder is a generator expression. The resource file is to lie beside the library with all of them.
+set(SOFTCLOTH_LIBRARY_FOLDER "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "$<1:${CMAKE_BINARY_DIR}/bin>")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "$<1:${SOFTCLOTH_LIBRARY_FOLDER}>")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "$<1:${SOFTCLOTH_LIBRARY_FOLDER}>")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)

@@ -244,8 +244,9 @@ void CPhysicsSoftClothPlugin::OnAboutToConvertPhysicsObjectType()
     if (engine != panelEngine || Scene().GetSelectedObjectCount() != 1) {
         return;
     }
+    BF::CHandle* selected = Scene().GetSelectedObject(0);
     quint32 type = 0;
-    Scene().GetObjectType(Scene().GetSelectedObject(0), type);
+    Scene().GetObjectType(selected, type);
     if (IsConvertibleType(type)) {
         ShowAll(true);
     }

@@ -30,7 +30,12 @@ CPhysicsSoftClothPlugin::CPhysicsSoftClothPlugin(QWidget* parent)
 
 CPhysicsSoftClothPlugin::~CPhysicsSoftClothPlugin()
 {
-    // Nothing that dies below may bring the host's events back into a half-destroyed object.
+    ReleaseParts();
+}
+
+void CPhysicsSoftClothPlugin::ReleaseParts()
+{
+    // Nothing that dies below may bring the host's events back to a row of parts with gaps.
     if (m_eventSender) {
         m_eventSender->disconnect(this);
     }

@@ -51,6 +51,7 @@ public:
     // The plug-in interface.
 
     /// Registers the resource file, creates and initialises the parts and connects to the host's events.
+    /// Called again, it begins anew: the parts and the connections of the time before end first.
     /// \return 0; 0x80000003 for a null \p host; 0x80000002 for a part that could not be made; else the first failure
     BF::Result Initialize(const QString& pluginPath, const QString& resourceBase, CMoviraInterface* host) override;
     /// Appends the Preset, Property, Collision and Wind sections, always four entries; null for a missing section.
@@ -94,6 +95,8 @@ private:
     BF::Result CreateParts(const QString& pluginPath, const QString& resourceBase, CMoviraInterface* host);
     template <class Part, class... Arguments>
     BF::Result CreatePart(QSharedPointer<Part>& part, Arguments... arguments);
+    /// Leaves the host's events, then destroys the parts, the last in the row of the fields first.
+    void ReleaseParts();
     void ConnectHostEvents(CEventSender* sender);
 
     BF::Result CheckGates(BF::CHandle*& candidate);

@@ -24,6 +24,8 @@ namespace {
 template <class Part>
 void Own(QSharedPointer<Part>& holder, Part* part, const QObject* context)
 {
+    // What is held goes first: in its last moment it would empty the holder of its successor.
+    holder.clear();
     const auto guard = std::make_shared<QPointer<Part>>(part);
     holder = QSharedPointer<Part>(part, [guard](Part*) { delete guard->data(); });
     QObject::connect(part, &QObject::destroyed, context, [guard, &holder] {
@@ -53,6 +55,9 @@ BF::Result CPhysicsSoftClothPlugin::Initialize(const QString& pluginPath, const 
     if (registered.IsFailure()) {
         return registered;
     }
+    // A host may start the plug-in again; nothing of the time before reaches into the new one.
+    ReleaseParts();
+    m_selection = {};
     if (HasAnyBit(GetCurrentAp(), ECompatibleApp::Both)) {
         const BF::Result created = CreateParts(pluginPath, resourceBase, host);
         if (created.IsFailure()) {
@@ -72,17 +77,15 @@ BF::Result CPhysicsSoftClothPlugin::GetSectionList(QList<CSectionInterface*>& se
     return BF::Results::Success;
 }
 
-/// Creates one part; a class that this build lacks leaves the pointer null.
+/// Creates one part; 0x80000002 when there is no memory for it.
 template <class Part, class... Arguments>
 BF::Result CPhysicsSoftClothPlugin::CreatePart(QSharedPointer<Part>& part, Arguments... arguments)
 {
-    if constexpr (IsPartBuilt<Part>) {
-        auto* created = new (std::nothrow) Part(arguments...);
-        if (!created) {
-            return BF::Results::ResourceFailure;
-        }
-        Own(part, created, this);
+    auto* created = new (std::nothrow) Part(arguments...);
+    if (!created) {
+        return BF::Results::ResourceFailure;
     }
+    Own(part, created, this);
     return BF::Results::Success;
 }
 
@@ -112,9 +115,6 @@ BF::Result CPhysicsSoftClothPlugin::CreateParts(const QString& pluginPath, const
 
 void CPhysicsSoftClothPlugin::ConnectHostEvents(CEventSender* sender)
 {
-    if (m_eventSender) {
-        m_eventSender->disconnect(this);
-    }
     m_eventSender = sender;
     if (!sender) {
         return;

@@ -9,6 +9,8 @@
 #include <QDoubleSpinBox>
 #include <QGroupBox>
 
+#include <array>
+
 using MV::ECompatibleApp;
 
 /// The whole panel in the stand-in host: an object is selected, values are edited, the host keeps them.
@@ -31,6 +33,8 @@ private Q_SLOTS:
 
 namespace {
 
+const std::array<const char*, 4> sectionForms{"SoftClothPreset", "SoftClothProperty", "SoftClothCollision",
+                                              "SoftClothWindSetting"};
 const char* const rigidMargin = "qtCollideWithRigidMarginDoubleEXSpinBox";
 
 void Enter(QDoubleSpinBox* box, const QString& text)
@@ -124,11 +128,11 @@ void TestPanelInHost::playingDisablesTheSections()
     PanelFixture fixture;
     fixture.AddCloth(SampleModels::Hero());
     fixture.App().SetPlaying(true);
-    for (const char* form : {"SoftClothProperty", "SoftClothCollision", "SoftClothWindSetting"}) {
+    for (const char* form : sectionForms) {
         QVERIFY2(!BodyOf(fixture.Section(form))->isEnabled(), form);
     }
     fixture.App().SetPlaying(false);
-    for (const char* form : {"SoftClothProperty", "SoftClothCollision", "SoftClothWindSetting"}) {
+    for (const char* form : sectionForms) {
         QVERIFY2(BodyOf(fixture.Section(form))->isEnabled(), form);
     }
 }

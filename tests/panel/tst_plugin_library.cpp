@@ -32,7 +32,8 @@ private Q_SLOTS:
     void sectionValues_data();
     void sectionValues();
     void sectionsAreListedInOrder();
-    void resourceFileHoldsTheForms();
+    void resourceFileHoldsWhatThePanelUses_data();
+    void resourceFileHoldsWhatThePanelUses();
     void resourceFileHasNoTimeStamps();
     void mainWindowMayDieBeforeThePlugin();
 };
@@ -40,6 +41,12 @@ private Q_SLOTS:
 namespace {
 
 const QString libraryFile = QStringLiteral(SOFTCLOTH_PLUGIN_FILE);
+
+/// The resource file, which lies beside the library.
+QString ResourceFile()
+{
+    return QFileInfo(libraryFile).path() + QStringLiteral("/MVPhysicsSoftClothSection.rcc");
+}
 
 QByteArray ReadAll(const QString& path)
 {
@@ -149,6 +156,7 @@ void TestPluginLibrary::sectionValues_data()
 {
     QTest::addColumn<QString>("form");
     QTest::addColumn<int>("order");
+    QTest::newRow("preset") << QStringLiteral("SoftClothPreset") << 0;
     QTest::newRow("property") << QStringLiteral("SoftClothProperty") << 16;
     QTest::newRow("collision") << QStringLiteral("SoftClothCollision") << 32;
     QTest::newRow("wind") << QStringLiteral("SoftClothWindSetting") << 48;
@@ -179,26 +187,39 @@ void TestPluginLibrary::sectionsAreListedInOrder()
     QCOMPARE(listed.size(), 4);
     int last = -1;
     for (MV::CSectionInterface* section : listed) {
-        if (section) {
-            QVERIFY(section->GetSectionOrder() > last);
-            last = section->GetSectionOrder();
-        }
+        QVERIFY(section);
+        QVERIFY(section->GetSectionOrder() > last);
+        last = section->GetSectionOrder();
     }
 }
 
-void TestPluginLibrary::resourceFileHoldsTheForms()
+void TestPluginLibrary::resourceFileHoldsWhatThePanelUses_data()
 {
-    PanelFixture fixture;
-    const QString root = QStringLiteral(":/plugin/MVPhysicsSoftClothSection/");
-    for (const char* file : {"SoftClothCollision.ui", "LayoutUI.ini"}) {
-        QVERIFY2(QFileInfo(root + QLatin1String(file)).isFile(), file);
+    QTest::addColumn<QString>("file");
+    for (const char* file :
+         {"LayoutUI.ini", "SoftClothPreset.ui", "SoftClothProperty.ui", "SoftClothCollision.ui",
+          "SoftClothWindSetting.ui", "SoftClothMaterialDlg.ui", "SoftClothMaterialTable.ui",
+          "icon/BTN_Diamond_unselect.png", "icon/BTN_Diamond_unselect@2x.png", "icon/BTN_Diamond_select.png",
+          "icon/BTN_Diamond_select@2x.png", "icon/BTN_Diamond_hover.png", "icon/BTN_Diamond_hover@2x.png",
+          "icon/BTN_Diamond_disable.png", "icon/BTN_Diamond_disable@2x.png"}) {
+        QTest::newRow(file) << QString::fromLatin1(file);
     }
+}
+
+void TestPluginLibrary::resourceFileHoldsWhatThePanelUses()
+{
+    QFETCH(const QString, file);
+    const QString root = QStringLiteral("/held");
+    QVERIFY(QResource::registerResource(ResourceFile(), root));
+    const qint64 size =
+        QFile(QLatin1Char(':') + root + QStringLiteral("/plugin/MVPhysicsSoftClothSection/") + file).size();
+    QVERIFY(QResource::unregisterResource(ResourceFile(), root));
+    QVERIFY(size > 0);
 }
 
 void TestPluginLibrary::resourceFileHasNoTimeStamps()
 {
-    const QString path = QFileInfo(libraryFile).path() + QStringLiteral("/MVPhysicsSoftClothSection.rcc");
-    const QByteArray bytes = ReadAll(path);
+    const QByteArray bytes = ReadAll(ResourceFile());
     QCOMPARE(bytes.left(4), QByteArray("qres"));
     // Only format 1 keeps none.
     QCOMPARE(qFromBigEndian<quint32>(bytes.constData() + 4), 1U);

@@ -16,7 +16,11 @@ public:
     ~PluginFixture();
     Q_DISABLE_COPY_MOVE(PluginFixture)
 
-    BF::Result Initialize();
+    BF::Result Initialize(const QString& resourceBase = {});
+    /// The same with another host than the fixture's.
+    BF::Result InitializeIn(MV::CMoviraInterface& otherHost, const QString& resourceBase = {});
+    /// The path that the plug-in object is initialised with.
+    static QString PluginPath();
     /// Adds an object and selects it, without a trace in the journal.
     Host::Object& AddSelected(Host::Object object = SampleModels::Hero());
 
@@ -25,7 +29,27 @@ public:
     /// The same without the calls of the host.
     QStringList TakeParts();
 
+    /// What the plug-in object lists as its sections.
+    QList<MV::CSectionInterface*> Sections() const;
+    /// The calls of the parts when all of them are made, and when all of them are destroyed.
+    static QStringList PartsMade();
+    static QStringList PartsDestroyed();
+
+    /// How often \p eventSignal, as SIGNAL() spells it, is connected.
+    int ConnectionCount(const char* eventSignal);
+
     Host::HostApplication host;
     QWidget mainWindow;
     std::unique_ptr<MV::CPhysicsSoftClothPlugin> plugin;
+};
+
+/// A fixture that shows its selected object, with a mesh and a material of it.
+struct ShownFixture : PluginFixture
+{
+    explicit ShownFixture(MV::ECompatibleApp app = MV::ECompatibleApp::FamilyA);
+
+    /// Whether \p calls hold a whole refresh.
+    static bool IsRefresh(const QStringList& calls);
+
+    Host::Object* object = nullptr;
 };

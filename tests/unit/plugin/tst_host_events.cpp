@@ -6,7 +6,6 @@
 
 using MV::CEventSender;
 using MV::ECompatibleApp;
-using Bit = MV::EObjectChangedDataType;
 
 /// What each host event sets off.
 class TestHostEvents : public TestCase
@@ -18,13 +17,12 @@ private Q_SLOTS:
     void eventRefreshes();
     void dialogModeChangeRefreshesInFamilyB();
     void dialogModeChangeDoesNothingInFamilyA();
-    void objectDataChanged_data();
-    void objectDataChanged();
-    void materialListBitAsksForTheFirstSelectedObject();
     void conversionShowsTheSections_data();
     void conversionShowsTheSections();
     void conversionDecidesFromTheValuesAlone();
     void hierarchyChangeReloadsTheShownObjectOnly();
+    void reloadIsForTheShownObject_data();
+    void reloadIsForTheShownObject();
     void pickModeGoesToTheDialog();
     void playingDisablesWithoutRefreshing();
     void stoppingEnablesAndRefreshes();
@@ -33,40 +31,8 @@ private Q_SLOTS:
     void undoNeedsTheShownObjectAlone();
     void pickedMaterialRefreshes_data();
     void pickedMaterialRefreshes();
+    void pickedNullIsWhatAnEmptyPanelShows();
 };
-
-namespace {
-
-/// A fixture that shows its selected object.
-struct ShownFixture : PluginFixture
-{
-    explicit ShownFixture(ECompatibleApp app = ECompatibleApp::FamilyA)
-        : PluginFixture(app)
-    {
-        Initialize();
-        object = &AddSelected();
-        plugin->UpdateUi();
-        plugin->Selection().mesh = 11;
-        plugin->Selection().material = 12;
-        Take();
-    }
-
-    /// Whether the calls since the last time hold a whole refresh.
-    static bool IsRefresh(const QStringList& calls)
-    {
-        return calls.contains(QStringLiteral("GetPhysicsEngineType")) &&
-               calls.contains(QStringLiteral("Dialog.UpdateUi"));
-    }
-
-    Host::Object* object = nullptr;
-};
-
-BF::CArrayList<BF::CHandle*> List(BF::CHandle* object)
-{
-    return {object};
-}
-
-} // namespace
 
 void TestHostEvents::eventRefreshes_data()
 {
@@ -113,87 +79,6 @@ void TestHostEvents::dialogModeChangeDoesNothingInFamilyA()
     ShownFixture fixture;
     fixture.host.SetDialogMode(MV::EDialogMode::WeightMap);
     QCOMPARE(fixture.Take(), QStringList());
-}
-
-void TestHostEvents::objectDataChanged_data()
-{
-    QTest::addColumn<Bit>("bits");
-    QTest::addColumn<bool>("concernsShownObject");
-    QTest::addColumn<QString>("reload"); ///< What the dialog reloads before anything else.
-    QTest::addColumn<QString>("outcome");
-
-    const QString none = QStringLiteral("none");
-    const QString cleared = QStringLiteral("clear and refresh");
-    const QString reread = QStringLiteral("object null and refresh");
-    const QString names = QStringLiteral("names");
-    const QString list = QStringLiteral("Dialog.ReloadMaterials(false)");
-    const auto row = [](const char* name, Bit bits, bool concerns, const QString& reload, const QString& outcome) {
-        QTest::newRow(name) << bits << concerns << reload << outcome;
-    };
-    row("no bit", Bit::None, true, {}, none);
-    row("a bit that means nothing here", Bit(0x1 | 0x10 | 0x20 | 0x80 | 0x200), true, {}, none);
-    row("topology", Bit::Topology, true, {}, cleared);
-    row("topology of another object", Bit::Topology, false, {}, cleared);
-    row("replaced", Bit::Replaced, true, {}, cleared);
-    row("replaced, another object", Bit::Replaced, false, {}, cleared);
-    row("material list", Bit::MaterialList, true, list, none);
-    row("material list goes by the selection, not by the objects", Bit::MaterialList, false, list, none);
-    row("removed", Bit::Removed, true, {}, reread);
-    row("removed, another object", Bit::Removed, false, {}, none);
-    row("names", Bit::MaterialNames, true, {}, names);
-    row("names of another object", Bit::MaterialNames, false, {}, none);
-    row("0x40 with 0x2 acts only on 0x40", Bit::Removed | Bit::Topology, true, {}, reread);
-    row("0x40 with 0x2, another object", Bit::Removed | Bit::Topology, false, {}, none);
-    row("0x100 with 0x2 acts only on 0x100", Bit::MaterialNames | Bit::Topology, true, {}, names);
-    row("0x40 with 0x100 acts only on 0x40", Bit::Removed | Bit::MaterialNames, true, {}, reread);
-    row("0x4 always clears", Bit(0x4 | 0x40 | 0x100 | 0x2), false, {}, cleared);
-    row("0x8 runs beside the others", Bit::MaterialList | Bit::Replaced, true, list, cleared);
-    row("0x8 with 0x100", Bit::MaterialList | Bit::MaterialNames, true, list, names);
-}
-
-void TestHostEvents::objectDataChanged()
-{
-    QFETCH(const Bit, bits);
-    QFETCH(const bool, concernsShownObject);
-    QFETCH(const QString, reload);
-    QFETCH(const QString, outcome);
-    ShownFixture fixture;
-    Host::Object& other = fixture.host.CurrentScene().AddObject(SampleModels::Flag());
-    Q_EMIT fixture.host.GetEventSender()->ObjectDataChanged(
-        List(concernsShownObject ? fixture.object->handle : other.handle), bits);
-
-    QStringList calls = fixture.TakeParts();
-    if (!reload.isEmpty()) {
-        QCOMPARE(calls.takeFirst(), reload);
-    }
-    const bool reloadsAll = calls.contains(QStringLiteral("Dialog.ReloadMaterials(true)"));
-    const bool refreshes = calls.contains(QStringLiteral("Dialog.UpdateUi"));
-    if (outcome == QLatin1String("none")) {
-        QCOMPARE(calls, QStringList());
-    } else if (outcome == QLatin1String("names")) {
-        QCOMPARE(calls, QStringList{QStringLiteral("Dialog.RefreshMaterialStates")});
-    } else {
-        // Without its object the panel adopts the selected one anew.
-        QVERIFY(reloadsAll && refreshes);
-        QCOMPARE(fixture.plugin->Selection().object, fixture.object->handle);
-        QCOMPARE(fixture.plugin->Selection().mesh, std::size_t(0));
-    }
-}
-
-void TestHostEvents::materialListBitAsksForTheFirstSelectedObject()
-{
-    ShownFixture fixture;
-    Host::Object& other = fixture.host.CurrentScene().AddObject(SampleModels::Flag());
-    fixture.host.CurrentScene().SetSelection({other.handle, fixture.object->handle});
-    fixture.Take();
-    Q_EMIT fixture.host.GetEventSender()->ObjectDataChanged(List(fixture.object->handle), Bit::MaterialList);
-    QCOMPARE(fixture.Take(), QStringList{QStringLiteral("GetSelectedObject")});
-
-    // Nothing shown and nothing selected is no match either.
-    fixture.host.CurrentScene().SetSelection({});
-    fixture.plugin->Selection().Clear();
-    Q_EMIT fixture.host.GetEventSender()->ObjectDataChanged({}, Bit::MaterialList);
-    QCOMPARE(fixture.TakeParts(), QStringList());
 }
 
 void TestHostEvents::conversionShowsTheSections_data()
@@ -275,6 +160,30 @@ void TestHostEvents::hierarchyChangeReloadsTheShownObjectOnly()
     fixture.plugin->Selection().Clear();
     Q_EMIT fixture.host.GetEventSender()->HierarchyChanged();
     QCOMPARE(fixture.Take(), QStringList{QStringLiteral("GetSelectedObject")});
+}
+
+void TestHostEvents::reloadIsForTheShownObject_data()
+{
+    QTest::addColumn<QString>("event");
+    for (const char* event : {"HierarchyChanged", "ObjectDataChanged", "UndoRedoDone"}) {
+        QTest::newRow(event) << QString::fromLatin1(event);
+    }
+}
+
+void TestHostEvents::reloadIsForTheShownObject()
+{
+    QFETCH(const QString, event);
+    ShownFixture fixture;
+    MV::CSoftClothMaterialDlg& dialog = *fixture.plugin->MaterialDlg();
+    dialog.reloadedObject = nullptr;
+    CEventSender& sender = *fixture.host.GetEventSender();
+    const QHash<QString, std::function<void()>> events{
+        {QStringLiteral("HierarchyChanged"), [&] { Q_EMIT sender.HierarchyChanged(); }},
+        {QStringLiteral("ObjectDataChanged"),
+         [&] { Q_EMIT sender.ObjectDataChanged({}, MV::EObjectChangedDataType::MaterialList); }},
+        {QStringLiteral("UndoRedoDone"), [&] { Q_EMIT sender.UndoRedoDone(); }}};
+    events.value(event)();
+    QCOMPARE(dialog.reloadedObject, fixture.object->handle);
 }
 
 void TestHostEvents::pickModeGoesToTheDialog()
@@ -386,6 +295,18 @@ void TestHostEvents::pickedMaterialRefreshes()
     } else {
         QCOMPARE(calls.size(), firstCalls.size());
     }
+}
+
+void TestHostEvents::pickedNullIsWhatAnEmptyPanelShows()
+{
+    ShownFixture fixture;
+    fixture.plugin->Selection().Clear();
+    fixture.host.CurrentScene().dialogMode = MV::EDialogMode::WeightMap;
+    FakeParts::pickChangesMaterial = true;
+    Q_EMIT fixture.host.GetEventSender()->PickedMaterialIndexChanged(nullptr, 3);
+    // The refresh that follows ends with the host, which knows no such object.
+    QCOMPARE(fixture.Take(), (QStringList{QStringLiteral("GetDialogMode"), QStringLiteral("Dialog.PickMaterial(3)"),
+                                          QStringLiteral("IsPhysicsActive")}));
 }
 
 QTEST_MAIN(TestHostEvents)

@@ -1,3 +1,4 @@
+#include "tests/support/PanelFixture.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/plugin/PluginFixture.h"
 
@@ -17,7 +18,11 @@ private Q_SLOTS:
     void typeCode();
     void callsOfTheDecision_data();
     void callsOfTheDecision();
+    void selectedObjectsAreAskedForWithTheFlagOne();
+    void unansweredQuestionHasItsPreset_data();
+    void unansweredQuestionHasItsPreset();
     void hidingClearsTheSelectionAndLeavesTheWeightMapMode();
+    void hidingClearsTheSelectionBeforeTheHostHearsOfIt();
     void hidingLeavesOtherDialogModesAlone();
     void hidingInFamilyBEndsAlthoughTheModeChangeNests();
     void failingHostCallIsReturned_data();
@@ -166,6 +171,38 @@ void TestPanelGates::callsOfTheDecision()
     QCOMPARE(all.mid(calls.size(), 4), shown);
 }
 
+void TestPanelGates::selectedObjectsAreAskedForWithTheFlagOne()
+{
+    PluginFixture fixture;
+    fixture.Initialize();
+    fixture.AddSelected();
+    fixture.plugin->UpdateUi();
+    const QStringList asked = TakeCalls(fixture.host.Journal()).filter(QStringLiteral("GetSelectedObjects("));
+    QCOMPARE(asked, QStringList{QStringLiteral("GetSelectedObjects([\"Hero\"], 1) -> 0")});
+}
+
+void TestPanelGates::unansweredQuestionHasItsPreset_data()
+{
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<bool>("isShown");
+    QTest::newRow("engine 0") << QStringLiteral("GetPhysicsEngineType") << false;
+    QTest::newRow("not blocked") << QStringLiteral("IsPanelBlockedForObject") << true;
+    QTest::newRow("convert state 3") << QStringLiteral("GetSoftClothConvertState") << true;
+}
+
+void TestPanelGates::unansweredQuestionHasItsPreset()
+{
+    QFETCH(const QString, operation);
+    QFETCH(const bool, isShown);
+    PluginFixture fixture;
+    fixture.Initialize();
+    fixture.AddSelected().traits = {5, 0, 3, false, false};
+    // The host answers that all is well and leaves the value as it is.
+    fixture.host.Faults().FailOperation(operation, BF::Results::Success);
+    QCOMPARE(fixture.plugin->UpdateUi(), isShown ? BF::Results::Success : BF::Results::NothingDone);
+    QVERIFY(fixture.Take().contains(operation));
+}
+
 void TestPanelGates::hidingClearsTheSelectionAndLeavesTheWeightMapMode()
 {
     PluginFixture fixture;
@@ -187,6 +224,23 @@ void TestPanelGates::hidingClearsTheSelectionAndLeavesTheWeightMapMode()
     QCOMPARE(fixture.Take(), (QStringList{QStringLiteral("GetPhysicsEngineType"), QStringLiteral("GetSelectedObjects"),
                                           QStringLiteral("GetDialogMode"), QStringLiteral("SetDialogMode")} +
                               hidden));
+}
+
+void TestPanelGates::hidingClearsTheSelectionBeforeTheHostHearsOfIt()
+{
+    ShownFixture fixture;
+    fixture.host.CurrentScene().dialogMode = MV::EDialogMode::WeightMap;
+    QStringList empty;
+    const QObject whileTheFixtureLives;
+    connect(&fixture.host.Journal(), &Host::CallJournal::EntryAdded, &whileTheFixtureLives,
+            [&fixture, &empty](int index) {
+                const MV::SoftClothSelection& selection = fixture.plugin->Selection();
+                if (!selection.object && !selection.mesh && !selection.material) {
+                    empty.append(fixture.host.Journal().Entries().at(index).operation);
+                }
+            });
+    fixture.plugin->ShowAll(false);
+    QCOMPARE(empty.mid(0, 2), (QStringList{QStringLiteral("GetDialogMode"), QStringLiteral("SetDialogMode")}));
 }
 
 void TestPanelGates::hidingLeavesOtherDialogModesAlone()

@@ -1,3 +1,4 @@
+#include "tests/support/PanelFixture.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/plugin/PluginFixture.h"
 #include "tests/unit/plugin/fakes/FakeParts.h"
@@ -12,6 +13,8 @@ private Q_SLOTS:
     void sameObjectIsNotReloaded();
     void adoptingReplacesMeshAndMaterial();
     void failingReloadIsReturnedAndEndsTheRefresh();
+    void adoptedObjectIsTheOneThatIsReloaded();
+    void softClothIsThePhysicsAskedFor();
     void softClothStateEnablesTheSections_data();
     void softClothStateEnablesTheSections();
     void nothingShownDoesNotStopTheChain();
@@ -104,6 +107,27 @@ void TestPanelRefresh::failingReloadIsReturnedAndEndsTheRefresh()
     QCOMPARE(fixture.plugin->UpdateUi(), failure);
     QCOMPARE(fixture.TakeParts(), shown + QStringList{QStringLiteral("Dialog.ReloadMaterials(true)")});
     QCOMPARE(fixture.plugin->Selection().object, object.handle);
+}
+
+void TestPanelRefresh::adoptedObjectIsTheOneThatIsReloaded()
+{
+    PluginFixture fixture;
+    fixture.Initialize();
+    for (const Host::Object* object : {&fixture.AddSelected(), &fixture.AddSelected(SampleModels::Flag())}) {
+        fixture.host.CurrentScene().SetSelection({object->handle});
+        fixture.plugin->UpdateUi();
+        QCOMPARE(fixture.plugin->MaterialDlg()->reloadedObject, object->handle);
+    }
+}
+
+void TestPanelRefresh::softClothIsThePhysicsAskedFor()
+{
+    PluginFixture fixture;
+    fixture.Initialize();
+    fixture.AddSelected().state.softCloth = true;
+    fixture.plugin->UpdateUi();
+    const QStringList asked = TakeCalls(fixture.host.Journal()).filter(QStringLiteral("IsPhysicsActive("));
+    QCOMPARE(asked, QStringList{QStringLiteral("IsPhysicsActive(\"Hero\", 3, true) -> 0")});
 }
 
 void TestPanelRefresh::softClothStateEnablesTheSections_data()

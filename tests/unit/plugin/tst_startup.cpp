@@ -22,11 +22,16 @@ private Q_SLOTS:
     void missingResourceFileIsReturnedAndCreatesNothing();
     void partsAreCreatedAndInitialisedInOrder();
     void partsStandInTheOrderOfTheSections();
+    void partsAreMadeInTheTwoFamiliesOnly_data();
+    void partsAreMadeInTheTwoFamiliesOnly();
     void neitherFamilyGivesNoPartsButConnections();
     void failingInitialisationStopsThere_data();
     void failingInitialisationStopsThere();
-    void dialogModeChangeIsFollowedInFamilyBOnly_data();
-    void dialogModeChangeIsFollowedInFamilyBOnly();
+    void missingMemoryStopsThere_data();
+    void missingMemoryStopsThere();
+    void partsAreInitialisedWithWhatThePluginWasGiven_data();
+    void partsAreInitialisedWithWhatThePluginWasGiven();
+    void partsKnowTheirParentAndThePlugin();
     void destructionReleasesThePartsInReverseOrder();
     void partsMayDieBeforeThePlugin();
     void destroyedPartIsPassedOver();
@@ -40,16 +45,7 @@ private Q_SLOTS:
 
 namespace {
 
-int ConnectionCount(MV::CEventSender& sender, const char* signal)
-{
-    class Access : public MV::CEventSender
-    {
-    public:
-        using QObject::receivers;
-    };
-    // Only the protected counter is used, which needs no other layout than the base's.
-    return (sender.*(&Access::receivers))(signal);
-}
+const QList<MV::CSectionInterface*> noSections{nullptr, nullptr, nullptr, nullptr};
 
 } // namespace
 
@@ -68,20 +64,14 @@ void TestStartup::missingResourceFileIsReturnedAndCreatesNothing()
     const QTemporaryDir empty;
     QCOMPARE(fixture.plugin->Initialize(empty.path(), QString(), &fixture.host), BF::Results::ResourceFailure);
     QCOMPARE(fixture.Take(), QStringList());
-    QCOMPARE(ConnectionCount(*fixture.host.GetEventSender(), SIGNAL(HierarchyChanged())), 0);
+    QCOMPARE(fixture.ConnectionCount(SIGNAL(HierarchyChanged())), 0);
 }
 
 void TestStartup::partsAreCreatedAndInitialisedInOrder()
 {
     PluginFixture fixture;
     QCOMPARE(fixture.Initialize(), BF::Results::Success);
-    const QStringList expected{
-        QStringLiteral("GetMainWindow"),    QStringLiteral("Table.create"),    QStringLiteral("Table.Init"),
-        QStringLiteral("Dialog.create"),    QStringLiteral("Dialog.Init"),     QStringLiteral("Preset.create"),
-        QStringLiteral("Preset.Init"),      QStringLiteral("Property.create"), QStringLiteral("Property.Init"),
-        QStringLiteral("Collision.create"), QStringLiteral("Collision.Init"),  QStringLiteral("Wind.create"),
-        QStringLiteral("Wind.Init")};
-    QCOMPARE(fixture.Take(), expected);
+    QCOMPARE(fixture.Take(), QStringList{QStringLiteral("GetMainWindow")} + PluginFixture::PartsMade());
 }
 
 void TestStartup::partsStandInTheOrderOfTheSections()
@@ -98,14 +88,40 @@ void TestStartup::partsStandInTheOrderOfTheSections()
     QVERIFY(dynamic_cast<MV::CSoftClothWindSection*>(sections.at(4)));
 }
 
+void TestStartup::partsAreMadeInTheTwoFamiliesOnly_data()
+{
+    QTest::addColumn<quint32>("app");
+    QTest::addColumn<bool>("isMade");
+    for (const quint32 app : {0x1U, 0x2U, 0x4U, 0x800000U, 0x1000000U, 0x9U}) {
+        QTest::addRow("0x%x", app) << app << true;
+    }
+    for (const quint32 app : {0U, 0x8U, 0x10U, 0x400000U, 0x2000000U, 0x80000000U, ~0x1800007U}) {
+        QTest::addRow("0x%x", app) << app << false;
+    }
+}
+
+void TestStartup::partsAreMadeInTheTwoFamiliesOnly()
+{
+    QFETCH(const quint32, app);
+    QFETCH(const bool, isMade);
+    PluginFixture fixture{ECompatibleApp(app)};
+    QCOMPARE(fixture.Initialize(), BF::Results::Success);
+    QCOMPARE(fixture.TakeParts(), isMade ? PluginFixture::PartsMade() : QStringList());
+    const QList<MV::CSectionInterface*> sections = fixture.Sections();
+    if (isMade) {
+        QCOMPARE(sections.size(), 4);
+        QVERIFY(!sections.contains(nullptr));
+    } else {
+        QCOMPARE(sections, noSections);
+    }
+}
+
 void TestStartup::neitherFamilyGivesNoPartsButConnections()
 {
     PluginFixture fixture(ECompatibleApp::None);
     QCOMPARE(fixture.Initialize(), BF::Results::Success);
     QCOMPARE(fixture.Take(), QStringList());
-    QList<MV::CSectionInterface*> sections;
-    QCOMPARE(fixture.plugin->GetSectionList(sections), BF::Results::Success);
-    QCOMPARE(sections, (QList<MV::CSectionInterface*>{nullptr, nullptr, nullptr, nullptr}));
+    QCOMPARE(fixture.Sections(), noSections);
 
     // The panel's gates are asked all the same, without the application gate.
     fixture.AddSelected();
@@ -137,36 +153,77 @@ void TestStartup::failingInitialisationStopsThere()
     FakeParts::results.insert(part + QLatin1String(".Init"), failure);
     QCOMPARE(fixture.Initialize(), failure);
     QCOMPARE(fixture.Take().constLast(), part + QLatin1String(".Init"));
-    QList<MV::CSectionInterface*> sections;
-    fixture.plugin->GetSectionList(sections);
+    const QList<MV::CSectionInterface*> sections = fixture.Sections();
     QCOMPARE(sections.size(), 4);
     QCOMPARE(int(sections.size() - sections.count(nullptr)), sectionsMade);
-    for (const char* signal : {SIGNAL(HierarchyChanged()), SIGNAL(ObjectSelectionChanged()), SIGNAL(Played())}) {
-        QCOMPARE(ConnectionCount(*fixture.host.GetEventSender(), signal), 0);
+}
+
+void TestStartup::missingMemoryStopsThere_data()
+{
+    QTest::addColumn<int>("partsMade");
+    QTest::addColumn<int>("sectionsMade");
+    QTest::newRow("table") << 0 << 0;
+    QTest::newRow("dialog") << 1 << 0;
+    QTest::newRow("preset") << 2 << 0;
+    QTest::newRow("property") << 3 << 1;
+    QTest::newRow("collision") << 4 << 2;
+    QTest::newRow("wind") << 5 << 3;
+}
+
+void TestStartup::missingMemoryStopsThere()
+{
+    QFETCH(const int, partsMade);
+    QFETCH(const int, sectionsMade);
+    PluginFixture fixture;
+    FakeParts::partsWithMemory = partsMade;
+    QCOMPARE(fixture.Initialize(), BF::Results::ResourceFailure);
+    QCOMPARE(fixture.TakeParts(), PluginFixture::PartsMade().mid(0, 2 * partsMade));
+    const QList<MV::CSectionInterface*> sections = fixture.Sections();
+    QCOMPARE(int(sections.size() - sections.count(nullptr)), sectionsMade);
+    QCOMPARE(fixture.ConnectionCount(SIGNAL(HierarchyChanged())), 0);
+}
+
+void TestStartup::partsAreInitialisedWithWhatThePluginWasGiven_data()
+{
+    QTest::addColumn<QString>("resourceBase");
+    QTest::newRow("no resource folder") << QString();
+    QTest::newRow("a resource folder") << QStringLiteral("some/folder of resources/");
+}
+
+void TestStartup::partsAreInitialisedWithWhatThePluginWasGiven()
+{
+    QFETCH(const QString, resourceBase);
+    PluginFixture fixture;
+    QCOMPARE(fixture.Initialize(resourceBase), BF::Results::Success);
+    QStringList parts;
+    for (const FakeParts::Initialised& part : qAsConst(FakeParts::initialised)) {
+        parts.append(part.part);
+        QCOMPARE(part.pluginPath, PluginFixture::PluginPath());
+        QCOMPARE(part.resourceBase, resourceBase);
+        QCOMPARE(part.host, &fixture.host);
     }
+    QCOMPARE(parts, (QStringList{QStringLiteral("Table"), QStringLiteral("Dialog"), QStringLiteral("Preset"),
+                                 QStringLiteral("Property"), QStringLiteral("Collision"), QStringLiteral("Wind")}));
 }
 
-void TestStartup::dialogModeChangeIsFollowedInFamilyBOnly_data()
+void TestStartup::partsKnowTheirParentAndThePlugin()
 {
-    QTest::addColumn<ECompatibleApp>("app");
-    QTest::addColumn<int>("connections");
-    QTest::newRow("family A") << ECompatibleApp::FamilyA << 0;
-    QTest::newRow("family B") << ECompatibleApp::FamilyB << 1;
-    QTest::newRow("one bit of family B") << ECompatibleApp(0x800000) << 1;
-    QTest::newRow("other bit of family B") << ECompatibleApp(0x1000000) << 1;
-    QTest::newRow("both") << ECompatibleApp::Both << 1;
-    QTest::newRow("neither") << ECompatibleApp(0x8) << 0;
-}
-
-void TestStartup::dialogModeChangeIsFollowedInFamilyBOnly()
-{
-    QFETCH(const ECompatibleApp, app);
-    QFETCH(const int, connections);
-    PluginFixture fixture(app);
-    QCOMPARE(fixture.Initialize(), BF::Results::Success);
-    MV::CEventSender& sender = *fixture.host.GetEventSender();
-    QCOMPARE(ConnectionCount(sender, SIGNAL(DialogModeChanged(MV::EDialogMode))), connections);
-    QCOMPARE(ConnectionCount(sender, SIGNAL(ObjectSelectionChanged())), 1);
+    PluginFixture fixture;
+    fixture.Initialize();
+    MV::CSoftClothMaterialDlg* dialog = fixture.plugin->MaterialDlg();
+    QVERIFY(dialog);
+    const QSharedPointer<MV::CSoftClothMaterialTable> table = dialog->materialTable.toStrongRef();
+    QVERIFY2(table, "the dialog was handed the table");
+    for (const MV::FakePart* part : std::initializer_list<MV::FakePart*>{table.data(), dialog}) {
+        QCOMPARE(part->parentWidget(), &fixture.mainWindow);
+        QCOMPARE(part->plugin, fixture.plugin.get());
+    }
+    for (MV::CSectionInterface* section : fixture.Sections()) {
+        const auto* part = dynamic_cast<MV::FakePart*>(section);
+        QVERIFY(part);
+        QCOMPARE(part->parentWidget(), fixture.plugin.get());
+        QCOMPARE(part->plugin, fixture.plugin.get());
+    }
 }
 
 void TestStartup::destructionReleasesThePartsInReverseOrder()
@@ -175,10 +232,7 @@ void TestStartup::destructionReleasesThePartsInReverseOrder()
     fixture.Initialize();
     fixture.Take();
     fixture.plugin.reset();
-    const QStringList expected{QStringLiteral("Table.destroy"),     QStringLiteral("Wind.destroy"),
-                               QStringLiteral("Collision.destroy"), QStringLiteral("Property.destroy"),
-                               QStringLiteral("Dialog.destroy"),    QStringLiteral("Preset.destroy")};
-    QCOMPARE(fixture.Take(), expected);
+    QCOMPARE(fixture.Take(), PluginFixture::PartsDestroyed());
 }
 
 void TestStartup::partsMayDieBeforeThePlugin()
@@ -199,17 +253,14 @@ void TestStartup::destroyedPartIsPassedOver()
 {
     PluginFixture fixture;
     fixture.Initialize();
-    QList<MV::CSectionInterface*> sections;
-    fixture.plugin->GetSectionList(sections);
-    delete sections.at(1)->GetSectionWidget();
+    delete fixture.Sections().at(1)->GetSectionWidget();
     fixture.AddSelected();
 
     QCOMPARE(fixture.plugin->UpdateUi(), BF::Results::Success);
     const QStringList calls = fixture.Take();
     QVERIFY(calls.filter(QStringLiteral("Property.")).isEmpty());
     QVERIFY(calls.contains(QStringLiteral("Collision.UpdateUi")));
-    sections.clear();
-    fixture.plugin->GetSectionList(sections);
+    const QList<MV::CSectionInterface*> sections = fixture.Sections();
     QCOMPARE(sections.size(), 4);
     QCOMPARE(sections.at(1), nullptr);
 }

@@ -4,8 +4,8 @@
 
 namespace MV {
 
-FakeSection::FakeSection(const char* name, CPhysicsSoftClothPlugin* plugin)
-    : FakePart(name, plugin)
+FakeSection::FakeSection(const char* name, CPhysicsSoftClothPlugin* givenPlugin)
+    : FakePart(name, givenPlugin, givenPlugin)
 {
 }
 

@@ -9,16 +9,47 @@
 #include <MVPluginQt/Result.h>
 
 #include <QHash>
+#include <QVector>
 #include <QWeakPointer>
 #include <QWidget>
+
+#include <cstddef>
+#include <limits>
+#include <new>
+
+namespace MV {
+class CMoviraInterface;
+class CPhysicsSoftClothPlugin;
+} // namespace MV
 
 /// Stand-ins for the six parts of the panel: each call is written into the host's call journal, between the host
 /// calls of the plug-in object, and answers what the test has planned.
 struct FakeParts
 {
+    /// What a part was initialised with.
+    struct Initialised
+    {
+        QString part;
+        QString pluginPath;
+        QString resourceBase;
+        MV::CMoviraInterface* host;
+    };
+
     static inline Host::CallJournal* journal = nullptr;
     static inline QHash<QString, BF::Result> results; ///< By call, for example "Property.UpdateUi"; 0 for the others.
     static inline bool pickChangesMaterial = false;
+    static inline int partsWithMemory = 0; ///< How many more parts find memory.
+    static inline QVector<Initialised> initialised;
+
+    /// As it is at the start of a test.
+    static void Reset(Host::CallJournal* callJournal)
+    {
+        journal = callJournal;
+        results.clear();
+        pickChangesMaterial = false;
+        partsWithMemory = std::numeric_limits<int>::max();
+        initialised.clear();
+    }
 
     static BF::Result Log(const QString& call, const QString& argument = {})
     {
@@ -38,15 +69,13 @@ struct FakeParts
 
 namespace MV {
 
-class CMoviraInterface;
-class CPhysicsSoftClothPlugin;
-
 /// What all six have in common.
 class FakePart : public QWidget
 {
 public:
-    FakePart(const char* name, QWidget* parent)
+    FakePart(const char* name, QWidget* parent, CPhysicsSoftClothPlugin* givenPlugin)
         : QWidget(parent)
+        , plugin(givenPlugin)
         , m_name(QLatin1String(name))
     {
         QWidget::setVisible(false);
@@ -54,10 +83,22 @@ public:
     }
     ~FakePart() override { Log("destroy"); }
 
-    BF::Result Init(const QString& /*pluginPath*/, const QString& /*resourceBase*/, CMoviraInterface* /*host*/)
+    static void* operator new(std::size_t size, const std::nothrow_t& tag) noexcept
     {
+        if (FakeParts::partsWithMemory == 0) {
+            return nullptr;
+        }
+        --FakeParts::partsWithMemory;
+        return ::operator new(size, tag);
+    }
+
+    BF::Result Init(const QString& pluginPath, const QString& resourceBase, CMoviraInterface* host)
+    {
+        FakeParts::initialised.append({m_name, pluginPath, resourceBase, host});
         return Log("Init");
     }
+
+    CPhysicsSoftClothPlugin* const plugin;
 
 protected:
     BF::Result Log(const char* call, const QString& argument = {}) const
@@ -72,7 +113,7 @@ private:
 class FakeSection : public FakePart, public CCoreBase, public CAbstractSection
 {
 public:
-    FakeSection(const char* name, CPhysicsSoftClothPlugin* plugin);
+    FakeSection(const char* name, CPhysicsSoftClothPlugin* givenPlugin);
 
     void setVisible(bool visible) override { Log(visible ? "show" : "hide"); }
     void EnableSection(bool enable) { Log("EnableSection", FakeParts::Text(enable)); }
@@ -94,8 +135,8 @@ public:
 class CSoftClothPropertySection : public FakePlainSection
 {
 public:
-    explicit CSoftClothPropertySection(CPhysicsSoftClothPlugin* plugin)
-        : FakePlainSection("Property", plugin)
+    explicit CSoftClothPropertySection(CPhysicsSoftClothPlugin* givenPlugin)
+        : FakePlainSection("Property", givenPlugin)
     {
     }
 };
@@ -103,8 +144,8 @@ public:
 class CSoftClothCollisionSection : public FakePlainSection
 {
 public:
-    explicit CSoftClothCollisionSection(CPhysicsSoftClothPlugin* plugin)
-        : FakePlainSection("Collision", plugin)
+    explicit CSoftClothCollisionSection(CPhysicsSoftClothPlugin* givenPlugin)
+        : FakePlainSection("Collision", givenPlugin)
     {
     }
 };
@@ -112,8 +153,8 @@ public:
 class CSoftClothWindSection : public FakePlainSection
 {
 public:
-    explicit CSoftClothWindSection(CPhysicsSoftClothPlugin* plugin)
-        : FakePlainSection("Wind", plugin)
+    explicit CSoftClothWindSection(CPhysicsSoftClothPlugin* givenPlugin)
+        : FakePlainSection("Wind", givenPlugin)
     {
     }
 };
@@ -121,8 +162,8 @@ public:
 class CSoftClothPresetSection : public FakeSection
 {
 public:
-    explicit CSoftClothPresetSection(CPhysicsSoftClothPlugin* plugin)
-        : FakeSection("Preset", plugin)
+    explicit CSoftClothPresetSection(CPhysicsSoftClothPlugin* givenPlugin)
+        : FakeSection("Preset", givenPlugin)
     {
     }
     BF::Result UpdateUi(bool sameObject) { return Log("UpdateUi", FakeParts::Text(sameObject)); }
@@ -132,8 +173,8 @@ public:
 class CSoftClothMaterialTable : public FakePart
 {
 public:
-    CSoftClothMaterialTable(QWidget* parent, CPhysicsSoftClothPlugin* /*plugin*/)
-        : FakePart("Table", parent)
+    CSoftClothMaterialTable(QWidget* parent, CPhysicsSoftClothPlugin* givenPlugin)
+        : FakePart("Table", parent, givenPlugin)
     {
     }
 };
@@ -141,15 +182,16 @@ public:
 class CSoftClothMaterialDlg : public FakePart
 {
 public:
-    CSoftClothMaterialDlg(QWidget* parent, CPhysicsSoftClothPlugin* /*plugin*/)
-        : FakePart("Dialog", parent)
+    CSoftClothMaterialDlg(QWidget* parent, CPhysicsSoftClothPlugin* givenPlugin)
+        : FakePart("Dialog", parent, givenPlugin)
     {
     }
-    BF::Result ReloadMaterials(BF::CHandle* /*object*/, bool reset)
+    BF::Result ReloadMaterials(BF::CHandle* object, bool reset)
     {
+        reloadedObject = object;
         return Log("ReloadMaterials", FakeParts::Text(reset));
     }
-    void SetMaterialTable(const QWeakPointer<CSoftClothMaterialTable>& table) { hasTable = !table.isNull(); }
+    void SetMaterialTable(const QWeakPointer<CSoftClothMaterialTable>& table) { materialTable = table; }
     void SelectWeightingLabel() { Log("SelectWeightingLabel"); }
     BF::Result RefreshMaterialStates() { return Log("RefreshMaterialStates"); }
     BF::Result UpdateUi() { return Log("UpdateUi"); }
@@ -160,7 +202,8 @@ public:
         return FakeParts::pickChangesMaterial;
     }
 
-    bool hasTable = false;
+    QWeakPointer<CSoftClothMaterialTable> materialTable;
+    BF::CHandle* reloadedObject = nullptr; ///< Whose materials were reloaded last.
 };
 
 } // namespace MV
