@@ -217,6 +217,7 @@ void CSoftClothMaterialDlg::EnableAdjustWidgets(bool enable)
 void CSoftClothMaterialDlg::ShowPath(const QString& path)
 {
     if (m_ui.bitmapPathLineEdit) {
+        const CSignalBlocker silent{m_ui.bitmapPathLineEdit};
         m_ui.bitmapPathLineEdit->setText(path);
     }
 }
@@ -239,8 +240,8 @@ void CSoftClothMaterialDlg::ShowDialog(EDialogMode eMode)
 
 void CSoftClothMaterialDlg::hideEvent(QHideEvent* event)
 {
-    // A minimised window is still open.
-    if (m_host && !event->spontaneous()) {
+    // Minimising counts as well: out of sight, a mode would go on unnoticed.
+    if (m_host) {
         if (Scene().GetCurrentPickMode() == EPickMode::Material) {
             Ui().CancelPickMode();
         }

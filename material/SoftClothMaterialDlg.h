@@ -96,7 +96,7 @@ private Q_SLOTS:
     void ShowDialog(MV::EDialogMode eMode);
     void OnFilterMaterialList();
     void DoHotkeyEscape();
-    void OnMaterialTextureChanged(BF::CHandle* hObject, const BF::CArrayList<unsigned long long>& kMaterialIndices,
+    void OnMaterialTextureChanged(BFHANDLE hObject, const BF::CArrayList<unsigned long long>& kMaterialIndices,
                                   MV::ETextureChannel eChannel);
 
 protected:

@@ -28,13 +28,13 @@ ETextureChannel CSoftClothMaterialDlg::ChannelOf(const QItemLabel* label) const
 void CSoftClothMaterialDlg::OnItemSelectedChanged()
 {
     auto* label = qobject_cast<QItemLabel*>(sender());
-    if (!label) {
-        return;
-    }
-    MakeLabelCurrent(label);
-    if (label == m_ui.weightingItemLabel) {
+    const bool isWeighting = label && label == m_ui.weightingItemLabel;
+    const bool isTexture = label && (label == m_ui.diffuseItemLabel || label == m_ui.opacityItemLabel);
+    if (isWeighting) {
+        MakeLabelCurrent(label);
         UpdateWeightSettings(false, true);
-    } else if (label == m_ui.diffuseItemLabel || label == m_ui.opacityItemLabel) {
+    } else if (isTexture) {
+        MakeLabelCurrent(label);
         ShowThumbnail(label, false);
     }
 }
@@ -165,7 +165,7 @@ BF::Result CSoftClothMaterialDlg::ShowThumbnail(QItemLabel* label, bool redraw)
     return BF::Results::Success;
 }
 
-void CSoftClothMaterialDlg::OnMaterialTextureChanged(BF::CHandle* hObject,
+void CSoftClothMaterialDlg::OnMaterialTextureChanged(BFHANDLE hObject,
                                                      const BF::CArrayList<unsigned long long>& kMaterialIndices,
                                                      ETextureChannel eChannel)
 {

@@ -44,8 +44,8 @@ void CSoftClothMaterialDlg::OnClickOpenFilePushButton()
 {
     const QPointer<CSoftClothMaterialDlg> self(this);
     QString path;
-    const BF::Result asked = Scene().GetOpenImageFileName(path, 4, 71, 4);
-    if (self && !asked.IsFailure()) {
+    Scene().GetOpenImageFileName(path, 4, 71, 4);
+    if (self) {
         OnLoadWeightImage(path);
     }
 }
@@ -106,8 +106,8 @@ void CSoftClothMaterialDlg::OnClickSaveFilePushButton()
 {
     const QPointer<CSoftClothMaterialDlg> self(this);
     QString path;
-    const BF::Result asked = Scene().GetSaveImageFileName(path, 4, 71, 4, QString());
-    if (!self || asked.IsFailure() || path.isEmpty()) {
+    Scene().GetSaveImageFileName(path, 4, 71, 4, QString());
+    if (!self || path.isEmpty()) {
         return;
     }
     const BF::Result saved = m_host->GetFileService()->SaveWeightImage(Selection().object, Selection().mesh,

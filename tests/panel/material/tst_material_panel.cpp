@@ -36,6 +36,8 @@ private Q_SLOTS:
     void tableNarrowsTheListUntilItIsUndone();
     void renamedMaterialShowsItsNameAlone();
     void emptyListCanBeFilledAgain();
+    void familyBRefreshesTheDialogByItself_data();
+    void familyBRefreshesTheDialogByItself();
     void loadedFileClosesTheDialog_data();
     void loadedFileClosesTheDialog();
     void pluginMayGoWhileTheTableIsOpen();
@@ -279,6 +281,32 @@ void TestMaterialPanel::emptyListCanBeFilledAgain()
     QCOMPARE(panel.Rows(), QStringList{heroRows.at(1)});
     QVERIFY(panel.List().isEnabled());
     QCOMPARE(panel.EditedMaterial(), QStringLiteral("Body, Hair"));
+}
+
+void TestMaterialPanel::familyBRefreshesTheDialogByItself_data()
+{
+    QTest::addColumn<QByteArray>("event");
+    QTest::newRow("another selection") << QByteArray("ObjectSelectionChanged");
+    QTest::newRow("undo") << QByteArray("UndoRedoDone");
+}
+
+void TestMaterialPanel::familyBRefreshesTheDialogByItself()
+{
+    QFETCH(const QByteArray, event);
+    MaterialPanel panel;
+    const auto send = [&panel](const QByteArray& name) {
+        panel.App().Journal().Clear();
+        QMetaObject::invokeMethod(panel.App().GetEventSender(), name.constData());
+        return TakeOperations(panel.App().Journal());
+    };
+    panel.OpenDialog();
+    const QStringList refresh = send("ImageAsyncLoadAllDone");
+    QVERIFY(!refresh.isEmpty());
+    // The dialog hears of an event before the plug-in object does, which refreshes the whole panel for a selection.
+    const bool isFamilyB = Family() == ECompatibleApp::FamilyB;
+    QCOMPARE(send(event).mid(0, refresh.size()) == refresh, isFamilyB);
+    panel.Dialog().close();
+    QVERIFY(send(event).mid(0, refresh.size()) != refresh);
 }
 
 void TestMaterialPanel::loadedFileClosesTheDialog_data()

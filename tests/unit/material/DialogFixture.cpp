@@ -114,6 +114,30 @@ QStringList DialogFixture::EnabledOf(const QStringList& names) const
     return enabled;
 }
 
+QStringList EditWidgets()
+{
+    return {QStringLiteral("qtWeightingItemLabel"),
+            QStringLiteral("label"),
+            QStringLiteral("label_2"),
+            QStringLiteral("label_3"),
+            QStringLiteral("label_4"),
+            QStringLiteral("qtOpenFilePushButton"),
+            QStringLiteral("qtSaveFilePushButton"),
+            QStringLiteral("qtDeleteFilePushButton"),
+            QStringLiteral("qtLaunchPushButton"),
+            QStringLiteral("qtUvRefPushButton"),
+            QStringLiteral("qtEmbedTexturePushButton"),
+            QStringLiteral("qtOpenPathPushButton"),
+            QStringLiteral("qtPickMaterialPushButton"),
+            QStringLiteral("qtBitmapLabel"),
+            QStringLiteral("qtBitmapPathLineEdit"),
+            QStringLiteral("ListBorderWidget"),
+            QStringLiteral("qtBrightnessCombospinbox"),
+            QStringLiteral("qtContrastCombospinbox"),
+            QStringLiteral("qtDiffuseItemLabel"),
+            QStringLiteral("qtOpacityItemLabel")};
+}
+
 namespace Journal {
 
 QString Message(const QString& text)
@@ -137,6 +161,15 @@ QString Draw(const QString& thumbnail, const QString& source)
 {
     const int pixels = qRound(88 * qApp->devicePixelRatio());
     return QStringLiteral("RenderThumbnail(%1, %1, %2, %3) -> 0").arg(pixels).arg(thumbnail, source);
+}
+
+QStringList DialogRefresh()
+{
+    return {QStringLiteral("GetMaterialTextureState"), QStringLiteral("GetDefaultThumbnail"),
+            QStringLiteral("RenderThumbnail"),         QStringLiteral("GetMaterialTextureState"),
+            QStringLiteral("GetDefaultThumbnail"),     QStringLiteral("RenderThumbnail"),
+            QStringLiteral("GetWeightTexture"),        QStringLiteral("GetDefaultThumbnail"),
+            QStringLiteral("GetThumbnailSourceImage"), QStringLiteral("RenderThumbnail")};
 }
 
 } // namespace Journal

@@ -61,6 +61,9 @@ public:
     Host::Object* object = nullptr;
 };
 
+/// The widgets that are of use only while a material is chosen.
+QStringList EditWidgets();
+
 /// Journal texts that many tests share.
 namespace Journal {
 
@@ -68,6 +71,8 @@ namespace Journal {
 QString Message(const QString& text);
 QString Refresh();      ///< The refresh of the whole panel.
 QString RefreshScene(); ///< The host draws its scene anew.
+/// The operations of the dialog's own refresh when nothing has a texture.
+QStringList DialogRefresh();
 /// A thumbnail drawn with as many pixels as its label has on the screen.
 QString Draw(const QString& thumbnail, const QString& source);
 

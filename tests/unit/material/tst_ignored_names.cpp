@@ -1,5 +1,6 @@
 #include "tests/support/FileRefusal.h"
 #include "tests/support/Files.h"
+#include "tests/support/NotingTranslator.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/material/DialogFixture.h"
 
@@ -7,6 +8,7 @@
 #include <QFileDialog>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -21,10 +23,14 @@ private Q_SLOTS:
     void otherObjectTypesAskForNothing_data();
     void otherObjectTypesAskForNothing();
     void dialogIsToldWhatToAskFor();
+    void captionIsTranslatedInItsContext();
     void cancellingEndsQuietly();
     void namesAreReadAndSet_data();
     void namesAreReadAndSet();
     void listIsRebuiltWithReset();
+    void failedWriteRebuildsTheListToo();
+    void objectIsTheOneSelectedAfterTheFileDialog();
+    void ignoringEverythingEmptiesTheList();
     void missingFileIsToldToTheUser();
     void unreadableFileIsToldToTheUser();
     void dialogMayDieInsideTheFileDialog();
@@ -122,6 +128,14 @@ void TestIgnoredNames::dialogIsToldWhatToAskFor()
     });
 }
 
+void TestIgnoredNames::captionIsTranslatedInItsContext()
+{
+    NamesFixture fixture;
+    const NotingTranslator translator;
+    fixture.PressHotKey([](QFileDialog& fileDialog) { fileDialog.reject(); });
+    QCOMPARE(translator.ContextsOf("Load Soft Cloth Custom Profile"), QList<QByteArray>{"Open File title"});
+}
+
 void TestIgnoredNames::cancellingEndsQuietly()
 {
     NamesFixture fixture;
@@ -171,6 +185,43 @@ void TestIgnoredNames::listIsRebuiltWithReset()
     fixture.Choose(fixture.Write("[Ignored_Material_Name_List]\n"));
     QCOMPARE(fixture.Take().filter(QStringLiteral("IsSoftClothActive")).size(), 3);
     QCOMPARE(fixture.Selection().material, fixture.MaterialId(0));
+}
+
+void TestIgnoredNames::failedWriteRebuildsTheListToo()
+{
+    NamesFixture fixture;
+    fixture.host.Faults().FailOperation(QStringLiteral("SetIgnoredMaterialNames"), BF::Results::Refused);
+    fixture.Choose(fixture.Write("[Ignored_Material_Name_List]\nBody=Skin\n"));
+    const QStringList calls = fixture.Take();
+    QVERIFY(calls.first().endsWith(QLatin1String("-> 0x80000006")));
+    QVERIFY(calls.value(1).startsWith(QLatin1String("GetMeshList(\"Hero\"")));
+    QCOMPARE(calls.last(), Journal::Refresh());
+    QVERIFY(calls.filter(QStringLiteral("ShowMessageBox")).isEmpty());
+    QCOMPARE(fixture.dialog->MaterialCount(), 3);
+}
+
+void TestIgnoredNames::objectIsTheOneSelectedAfterTheFileDialog()
+{
+    NamesFixture fixture;
+    fixture.Choose(fixture.Write("[Ignored_Material_Name_List]\nSheet=Linen\n"), [&] {
+        fixture.Selection().object = fixture.host.CurrentScene().AddObject(SampleModels::Flag()).handle;
+    });
+    const QStringList calls = fixture.Take();
+    QVERIFY(calls.first().startsWith(QStringLiteral(R"(SetIgnoredMaterialNames("Flag", {"Sheet": ["Linen"]}))")));
+    QCOMPARE(calls.filter(QStringLiteral("GetMeshList")),
+             QStringList{QStringLiteral(R"(GetMeshList("Flag", ["Sheet"]) -> 0)")});
+    QCOMPARE(fixture.dialog->MaterialCount(), 1);
+}
+
+void TestIgnoredNames::ignoringEverythingEmptiesTheList()
+{
+    NamesFixture fixture;
+    QCOMPARE(fixture.EnabledOf(EditWidgets()), EditWidgets());
+    fixture.Choose(fixture.Write("[Ignored_Material_Name_List]\nBody=Skin, Hair\nClothes=Skirt\n"));
+    QCOMPARE(fixture.dialog->MaterialCount(), 0);
+    QCOMPARE(fixture.EnabledOf(EditWidgets()), QStringList());
+    // The table keeps them all, so that they can be ticked again.
+    QCOMPARE(Child<QTableWidget>(fixture.table.data(), "qtMaterialTableWidget")->rowCount(), 3);
 }
 
 void TestIgnoredNames::missingFileIsToldToTheUser()

@@ -4,14 +4,13 @@
 #include <BFQtCustomWidgetPluginU/QItemLabel.h>
 
 #include <QAction>
+#include <QHideEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTimer>
 
-using MV::CEventSender;
-using MV::ECompatibleApp;
 using MV::EDialogMode;
 using MV::EPickMode;
 
@@ -26,7 +25,6 @@ private Q_SLOTS:
     void initRegistersTheHotKeys();
     void initFailsWithTheHotKeys_data();
     void initFailsWithTheHotKeys();
-    void slotsAreInOrder();
     void startsHiddenWithNoLabelCurrent();
     void dialogModeShowsAndHides();
     void showingWithoutAMaterialDisablesTheWidgets();
@@ -36,23 +34,17 @@ private Q_SLOTS:
     void refreshReturnsTheFirstFailure_data();
     void refreshReturnsTheFirstFailure();
     void refreshClearsWhatIsNotShown();
+    void pathIsShownWithoutASignal();
     void hidingEndsTheModes_data();
     void hidingEndsTheModes();
+    void minimisingEndsTheModesToo();
+    void modesEndBeforeTheBaseClassHides_data();
+    void modesEndBeforeTheBaseClassHides();
     void escapeEndsPickingThenClosesTheDialog();
     void escapeActionFollowsThePickMode_data();
     void escapeActionFollowsThePickMode();
     void escapeActionOutsidePickingDoesNothing();
     void pickButtonStartsPicking();
-    void imageLoadingDisablesTheTextures();
-    void imageLoadingEventsOutliveTheDialog();
-    void familyEvents_data();
-    void familyEvents();
-    void familyBRefreshesOnASelectionChange_data();
-    void familyBRefreshesOnASelectionChange();
-    void familyBHidesWhenAFileIsLoaded_data();
-    void familyBHidesWhenAFileIsLoaded();
-    void familyBRowClickUpdatesTheSettings_data();
-    void familyBRowClickUpdatesTheSettings();
     void tableButtonRunsTheTable_data();
     void tableButtonRunsTheTable();
     void tableFollowsTheSelectionOfItsOwnLoop();
@@ -61,35 +53,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-const QStringList editWidgets{QStringLiteral("qtWeightingItemLabel"),
-                              QStringLiteral("label"),
-                              QStringLiteral("label_2"),
-                              QStringLiteral("label_3"),
-                              QStringLiteral("label_4"),
-                              QStringLiteral("qtOpenFilePushButton"),
-                              QStringLiteral("qtSaveFilePushButton"),
-                              QStringLiteral("qtDeleteFilePushButton"),
-                              QStringLiteral("qtLaunchPushButton"),
-                              QStringLiteral("qtUvRefPushButton"),
-                              QStringLiteral("qtEmbedTexturePushButton"),
-                              QStringLiteral("qtOpenPathPushButton"),
-                              QStringLiteral("qtPickMaterialPushButton"),
-                              QStringLiteral("qtBitmapLabel"),
-                              QStringLiteral("qtBitmapPathLineEdit"),
-                              QStringLiteral("ListBorderWidget"),
-                              QStringLiteral("qtBrightnessCombospinbox"),
-                              QStringLiteral("qtContrastCombospinbox"),
-                              QStringLiteral("qtDiffuseItemLabel"),
-                              QStringLiteral("qtOpacityItemLabel")};
-
-/// The calls of a whole refresh when nothing has a texture.
-const QStringList refreshOperations{
-    QStringLiteral("GetMaterialTextureState"), QStringLiteral("GetDefaultThumbnail"),
-    QStringLiteral("RenderThumbnail"),         QStringLiteral("GetMaterialTextureState"),
-    QStringLiteral("GetDefaultThumbnail"),     QStringLiteral("RenderThumbnail"),
-    QStringLiteral("GetWeightTexture"),        QStringLiteral("GetDefaultThumbnail"),
-    QStringLiteral("GetThumbnailSourceImage"), QStringLiteral("RenderThumbnail")};
 
 QLineEdit& PathField(const DialogFixture& fixture)
 {
@@ -100,6 +63,34 @@ bool IsSelected(const DialogFixture& fixture, const char* label)
 {
     return fixture.Find<QItemLabel>(label)->IsSelected();
 }
+
+/// Hides \p dialog as a window system does when it minimises a window.
+void Minimise(QWidget* dialog)
+{
+    QHideEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    // An event that is sent is no longer spontaneous.
+    qApp->notify(dialog, &event);
+}
+
+/// A dialog that writes down which modes the host is in when the base class hides it.
+class HookedDialog : public MV::CSoftClothMaterialDlg
+{
+public:
+    explicit HookedDialog(DialogFixture& fixture)
+        : CSoftClothMaterialDlg(&fixture.window, &fixture.plugin)
+        , m_scene(fixture.host.CurrentScene())
+    {
+    }
+
+    QVector<QPair<EDialogMode, EPickMode>> modesAtHiding;
+
+protected:
+    void BeforeDialogModeChangedTHide() override { modesAtHiding.append({m_scene.dialogMode, m_scene.pickMode}); }
+
+private:
+    Host::Scene& m_scene;
+};
 
 } // namespace
 
@@ -158,25 +149,6 @@ void TestMaterialDialog::initFailsWithTheHotKeys()
     QCOMPARE(fixture.TakeOperations().constLast(), operation);
 }
 
-void TestMaterialDialog::slotsAreInOrder()
-{
-    const QMetaObject& meta = MV::CSoftClothMaterialDlg::staticMetaObject;
-    QStringList names;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        names.append(QString::fromLatin1(meta.method(i).name()));
-    }
-    QCOMPARE(names,
-             (QStringList{
-                 QStringLiteral("OnChangeCurrentItemOfMaterialList"), QStringLiteral("OnClickOpenFilePushButton"),
-                 QStringLiteral("OnClickSaveFilePushButton"), QStringLiteral("OnClickDeleteFilePushButton"),
-                 QStringLiteral("OnClickLaunchFilePushButton"), QStringLiteral("OnClickUvRefPushButton"),
-                 QStringLiteral("OnClickOpenPathPushButton"), QStringLiteral("OnClickEmbedTexturePushButton"),
-                 QStringLiteral("OnClickPickMaterialPushButton"), QStringLiteral("OnClickShowMaterialTablePushButton"),
-                 QStringLiteral("OnLoadWeightImage"), QStringLiteral("OnItemSelectedChanged"),
-                 QStringLiteral("ShowDialog"), QStringLiteral("OnFilterMaterialList"), QStringLiteral("DoHotkeyEscape"),
-                 QStringLiteral("OnMaterialTextureChanged")}));
-}
-
 void TestMaterialDialog::startsHiddenWithNoLabelCurrent()
 {
     const DialogFixture fixture;
@@ -194,7 +166,7 @@ void TestMaterialDialog::dialogModeShowsAndHides()
     fixture.host.SetDialogMode(EDialogMode::WeightMap);
     QVERIFY(fixture.dialog->isVisible());
     QVERIFY(!fixture.dialog->isModal());
-    QCOMPARE(fixture.TakeOperations(), refreshOperations);
+    QCOMPARE(fixture.TakeOperations(), Journal::DialogRefresh());
 
     fixture.host.SetDialogMode(EDialogMode(3));
     QVERIFY(!fixture.dialog->isVisible());
@@ -210,7 +182,7 @@ void TestMaterialDialog::showingWithoutAMaterialDisablesTheWidgets()
     DialogFixture fixture;
     fixture.Show();
     QVERIFY(fixture.dialog->isVisible());
-    QCOMPARE(fixture.EnabledOf(editWidgets), QStringList());
+    QCOMPARE(fixture.EnabledOf(EditWidgets()), QStringList());
     QVERIFY(fixture.IsEnabled(QStringLiteral("qtShowMaterialTableButton")));
     QCOMPARE(fixture.dialog->UpdateUi(), BF::Results::NothingDone);
     QCOMPARE(fixture.Take(), QStringList());
@@ -230,7 +202,7 @@ void TestMaterialDialog::showingAgainRefreshes()
     fixture.Open();
     Q_EMIT fixture.host.GetEventSender()->DialogModeChanged(EDialogMode::WeightMap);
     QVERIFY(fixture.dialog->isVisible());
-    QCOMPARE(fixture.TakeOperations(), refreshOperations);
+    QCOMPARE(fixture.TakeOperations(), Journal::DialogRefresh());
 }
 
 void TestMaterialDialog::hiddenDialogRefreshesNothing()
@@ -258,7 +230,7 @@ void TestMaterialDialog::refreshShowsTexturesThenWeightImage()
                           QStringLiteral("GetDefaultThumbnail(unknown 0xd0) -> 0"),
                           QStringLiteral("GetThumbnailSourceImage(unknown 0xd0, unknown 0xe1) -> false"),
                           Journal::Draw(QStringLiteral("unknown 0xd0"), QStringLiteral("null"))}));
-    QCOMPARE(fixture.EnabledOf(editWidgets), editWidgets);
+    QCOMPARE(fixture.EnabledOf(EditWidgets()), EditWidgets());
 }
 
 void TestMaterialDialog::refreshReturnsTheFirstFailure_data()
@@ -277,7 +249,7 @@ void TestMaterialDialog::refreshReturnsTheFirstFailure()
     fixture.host.Faults().FailCall(call, BF::Results::IndexOutOfRange);
     QCOMPARE(fixture.dialog->UpdateUi(), BF::Results::IndexOutOfRange);
     // The source query has no status and is not counted.
-    QCOMPARE(fixture.TakeOperations(), refreshOperations.mid(0, call == 9 ? 10 : call));
+    QCOMPARE(fixture.TakeOperations(), Journal::DialogRefresh().mid(0, call == 9 ? 10 : call));
 }
 
 void TestMaterialDialog::refreshClearsWhatIsNotShown()
@@ -291,7 +263,27 @@ void TestMaterialDialog::refreshClearsWhatIsNotShown()
     fixture.Selection().material = 0;
     fixture.dialog->UpdateUi();
     QCOMPARE(PathField(fixture).text(), QString());
-    QCOMPARE(fixture.EnabledOf(editWidgets), QStringList());
+    QCOMPARE(fixture.EnabledOf(EditWidgets()), QStringList());
+}
+
+void TestMaterialDialog::pathIsShownWithoutASignal()
+{
+    DialogFixture fixture;
+    fixture.Open();
+    fixture.dialog->SelectWeightingLabel();
+    fixture.host.plan.hasWeightTexture = true;
+    fixture.host.plan.weightState.hasFile = true;
+    fixture.host.plan.weightPath = QStringLiteral("/images/gray.png");
+    const QSignalSpy changes(&PathField(fixture), &QLineEdit::textChanged);
+    fixture.dialog->UpdateUi();
+    QCOMPARE(PathField(fixture).text(), QStringLiteral("/images/gray.png"));
+    QVERIFY(!PathField(fixture).signalsBlocked());
+    PathField(fixture).blockSignals(true);
+    fixture.Selection().material = 0;
+    fixture.dialog->UpdateUi();
+    QCOMPARE(PathField(fixture).text(), QString());
+    QVERIFY(PathField(fixture).signalsBlocked());
+    QCOMPARE(changes.size(), 0);
 }
 
 void TestMaterialDialog::hidingEndsTheModes_data()
@@ -323,6 +315,44 @@ void TestMaterialDialog::hidingEndsTheModes()
     QCOMPARE(fixture.Take(), calls);
     QCOMPARE(fixture.host.CurrentScene().dialogMode, EDialogMode::None);
     QCOMPARE(fixture.host.CurrentScene().pickMode, EPickMode::None);
+}
+
+void TestMaterialDialog::minimisingEndsTheModesToo()
+{
+    DialogFixture fixture;
+    fixture.Open();
+    fixture.host.CurrentScene().pickMode = EPickMode::Material;
+    Minimise(fixture.dialog);
+    QCOMPARE(fixture.host.CurrentScene().pickMode, EPickMode::None);
+    QCOMPARE(fixture.host.CurrentScene().dialogMode, EDialogMode::None);
+    // The end of its mode closes the dialog as well.
+    QVERIFY(!fixture.dialog->isVisible());
+    const QStringList calls = fixture.Take();
+    QCOMPARE(calls.filter(QStringLiteral("CancelPickMode")).size(), 1);
+    QCOMPARE(calls.filter(QStringLiteral("SetDialogMode")), QStringList{QStringLiteral("SetDialogMode(0) -> 0")});
+}
+
+void TestMaterialDialog::modesEndBeforeTheBaseClassHides_data()
+{
+    QTest::addColumn<bool>("minimises");
+    QTest::newRow("closed") << false;
+    QTest::newRow("minimised") << true;
+}
+
+void TestMaterialDialog::modesEndBeforeTheBaseClassHides()
+{
+    QFETCH(const bool, minimises);
+    DialogFixture fixture;
+    HookedDialog dialog(fixture);
+    QCOMPARE(dialog.Init({}, {}, &fixture.host), BF::Results::Success);
+    fixture.Show();
+    fixture.host.CurrentScene().pickMode = EPickMode::Material;
+    if (minimises) {
+        Minimise(&dialog);
+    } else {
+        dialog.close();
+    }
+    QCOMPARE(dialog.modesAtHiding, (QVector<QPair<EDialogMode, EPickMode>>{{EDialogMode::None, EPickMode::None}}));
 }
 
 void TestMaterialDialog::escapeEndsPickingThenClosesTheDialog()
@@ -376,128 +406,6 @@ void TestMaterialDialog::pickButtonStartsPicking()
     fixture.Open();
     fixture.Click("qtPickMaterialPushButton");
     QCOMPARE(fixture.Take(), QStringList{QStringLiteral("ChangePickMode(7) -> 0")});
-}
-
-void TestMaterialDialog::imageLoadingDisablesTheTextures()
-{
-    DialogFixture fixture;
-    fixture.Open();
-    const QStringList textures{QStringLiteral("qtDiffuseItemLabel"), QStringLiteral("qtOpacityItemLabel")};
-    Q_EMIT fixture.host.GetEventSender()->ImageAsyncLoadStart();
-    QCOMPARE(fixture.TakeOperations(), refreshOperations);
-    QCOMPARE(fixture.EnabledOf(textures), QStringList());
-    QVERIFY(fixture.IsEnabled(QStringLiteral("qtWeightingItemLabel")));
-    // A rebuild in the meantime leaves them so.
-    fixture.dialog->ReloadMaterials(fixture.object->handle, true);
-    QCOMPARE(fixture.EnabledOf(textures), QStringList());
-    fixture.Take();
-    Q_EMIT fixture.host.GetEventSender()->ImageAsyncLoadAllDone();
-    QCOMPARE(fixture.TakeOperations(), refreshOperations);
-    QCOMPARE(fixture.EnabledOf(textures), textures);
-
-    // What a hidden dialog missed shows the next time.
-    fixture.host.SetDialogMode(EDialogMode::None);
-    fixture.Take();
-    Q_EMIT fixture.host.GetEventSender()->ImageAsyncLoadStart();
-    QCOMPARE(fixture.Take(), QStringList());
-    fixture.Show();
-    QCOMPARE(fixture.EnabledOf(textures), QStringList());
-}
-
-void TestMaterialDialog::imageLoadingEventsOutliveTheDialog()
-{
-    DialogFixture fixture;
-    fixture.Open();
-    delete fixture.dialog;
-    Q_EMIT fixture.host.GetEventSender()->ImageAsyncLoadStart();
-    Q_EMIT fixture.host.GetEventSender()->ImageAsyncLoadAllDone();
-    QCOMPARE(fixture.Take(), QStringList());
-}
-
-void TestMaterialDialog::familyEvents_data()
-{
-    QTest::addColumn<ECompatibleApp>("app");
-    QTest::addColumn<bool>("listens");
-    QTest::newRow("family A") << ECompatibleApp::FamilyA << false;
-    QTest::newRow("one of family A") << ECompatibleApp(0x2) << false;
-    QTest::newRow("family B") << ECompatibleApp::FamilyB << true;
-    QTest::newRow("one of family B") << ECompatibleApp(0x800000) << true;
-    QTest::newRow("neither") << ECompatibleApp(0x10) << false;
-}
-
-void TestMaterialDialog::familyEvents()
-{
-    QFETCH(const ECompatibleApp, app);
-    QFETCH(const bool, listens);
-    DialogFixture fixture(app);
-    fixture.Open();
-    CEventSender& sender = *fixture.host.GetEventSender();
-    const QStringList expected = listens ? refreshOperations : QStringList();
-    // The plug-in object comes first and reloads nothing for the object that it shows already.
-    const auto ownCalls = [&] {
-        QStringList operations = fixture.TakeOperations();
-        while (!operations.isEmpty() && !refreshOperations.contains(operations.first())) {
-            operations.removeFirst();
-        }
-        return operations;
-    };
-    Q_EMIT sender.UndoRedoDone();
-    QCOMPARE(ownCalls(), expected);
-    fixture.host.SetDialogMode(EDialogMode::None);
-    fixture.Take();
-    Q_EMIT sender.UndoRedoDone();
-    QCOMPARE(ownCalls(), QStringList());
-}
-
-void TestMaterialDialog::familyBRefreshesOnASelectionChange_data()
-{
-    familyEvents_data();
-}
-
-void TestMaterialDialog::familyBRefreshesOnASelectionChange()
-{
-    QFETCH(const ECompatibleApp, app);
-    QFETCH(const bool, listens);
-    DialogFixture fixture(app);
-    fixture.Open();
-    // The plug-in object hears of it first here and takes the chosen material away.
-    Q_EMIT fixture.host.GetEventSender()->ObjectSelectionChanged();
-    QCOMPARE(fixture.Selection().material, Host::Id(0));
-    QCOMPARE(fixture.EnabledOf(editWidgets), listens ? QStringList() : editWidgets);
-}
-
-void TestMaterialDialog::familyBHidesWhenAFileIsLoaded_data()
-{
-    familyEvents_data();
-}
-
-void TestMaterialDialog::familyBHidesWhenAFileIsLoaded()
-{
-    QFETCH(const ECompatibleApp, app);
-    QFETCH(const bool, listens);
-    DialogFixture fixture(app);
-    fixture.Open();
-    Q_EMIT fixture.host.GetEventSender()->FileLoaded(MV::EFileType::Scene);
-    QCOMPARE(fixture.dialog->isVisible(), !listens);
-    QCOMPARE(fixture.host.CurrentScene().dialogMode, listens ? EDialogMode::None : EDialogMode::WeightMap);
-}
-
-void TestMaterialDialog::familyBRowClickUpdatesTheSettings_data()
-{
-    familyEvents_data();
-}
-
-void TestMaterialDialog::familyBRowClickUpdatesTheSettings()
-{
-    QFETCH(const ECompatibleApp, app);
-    QFETCH(const bool, listens);
-    DialogFixture fixture(app);
-    fixture.Open();
-    auto* list = fixture.Find<QListWidget>("qtMaterialListWidget");
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
-    QCOMPARE(fixture.TakeOperations(),
-             listens ? QStringList({QStringLiteral("GetWeightTexture"), QStringLiteral("GetDefaultThumbnail")})
-                     : QStringList());
 }
 
 void TestMaterialDialog::tableButtonRunsTheTable_data()

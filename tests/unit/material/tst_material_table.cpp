@@ -1,3 +1,4 @@
+#include "tests/support/NotingTranslator.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/material/DialogFixture.h"
 
@@ -10,7 +11,6 @@
 #include <QTableWidget>
 #include <QTextCodec>
 #include <QTimer>
-#include <QTranslator>
 
 using MV::CSoftClothMaterialTable;
 
@@ -22,6 +22,7 @@ class TestMaterialTable : public TestCase
 private Q_SLOTS:
     void initWithoutHostIsAnInvalidArgument();
     void initWithoutItsFormFails();
+    void slotsAreInOrder();
     void columnsAreSetUp();
     void headersAreTranslatedWithTheirNotes();
     void rowsAreReadFromTheHost();
@@ -101,22 +102,6 @@ struct TableFixture : DialogFixture
 const QStringList heroRows{QStringLiteral("x Body Skin"), QStringLiteral("x Body Hair"),
                            QStringLiteral("x Clothes Skirt")};
 
-/// Writes down what it is asked for and knows nothing.
-class NotingTranslator : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* source, const char* note, int /*n*/) const override
-    {
-        if (QByteArray(context) == "MV::CSoftClothMaterialTable") {
-            notes.append({QByteArray(source), QByteArray(note)});
-        }
-        return {};
-    }
-    bool isEmpty() const override { return false; }
-
-    mutable QVector<QPair<QByteArray, QByteArray>> notes;
-};
-
 } // namespace
 
 void TestMaterialTable::initWithoutHostIsAnInvalidArgument()
@@ -137,6 +122,18 @@ void TestMaterialTable::initWithoutItsFormFails()
     ExpectWarning(QStringLiteral("SoftClothMaterialTable.ui"));
     QCOMPARE(table.Init({}, {}, &host), BF::Results::ResourceFailure);
     QVERIFY(!table.findChild<QWidget*>());
+}
+
+void TestMaterialTable::slotsAreInOrder()
+{
+    const QMetaObject& meta = CSoftClothMaterialTable::staticMetaObject;
+    QStringList signatures;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
+        signatures.append(QString::fromLatin1(meta.method(i).methodSignature()));
+    }
+    QCOMPARE(signatures,
+             (QStringList{QStringLiteral("OnClickCancelPushButton()"), QStringLiteral("OnClickConfirmPushButton()")}));
 }
 
 void TestMaterialTable::columnsAreSetUp()
@@ -164,10 +161,8 @@ void TestMaterialTable::columnsAreSetUp()
 
 void TestMaterialTable::headersAreTranslatedWithTheirNotes()
 {
-    NotingTranslator translator;
-    QCoreApplication::installTranslator(&translator);
+    const NotingTranslator translator;
     const DialogFixture fixture;
-    QCoreApplication::removeTranslator(&translator);
 
     const QTextCodec* big5 = QTextCodec::codecForName("Big5");
     QVERIFY(big5);
@@ -177,9 +172,10 @@ void TestMaterialTable::headersAreTranslatedWithTheirNotes()
         {" ", QStringLiteral(u"\u7b2c\u4e00\u6b04\u540d\u7a31")},
         {"Mesh", QStringLiteral(u"\u7b2c\u4e8c\u6b04\u540d\u7a31")},
         {"Material Name", QStringLiteral(u"\u7b2c\u4e09\u6b04\u540d\u7a31")}};
-    QCOMPARE(translator.notes.size(), expected.size());
+    const auto asked = translator.TextsIn("MV::CSoftClothMaterialTable");
+    QCOMPARE(asked.size(), expected.size());
     for (int i = 0; i < expected.size(); ++i) {
-        const auto& [source, note] = translator.notes.at(i);
+        const auto& [source, note] = asked.at(i);
         QCOMPARE(source, expected.at(i).first);
         QVERIFY(note.startsWith(first));
         QCOMPARE(big5->toUnicode(note.mid(first.size())).trimmed(), expected.at(i).second);

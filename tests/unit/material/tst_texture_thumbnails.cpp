@@ -1,15 +1,19 @@
+#include "tests/support/ForwardingServices.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/material/DialogFixture.h"
+#include "tests/unit/material/HostWithScene.h"
 
 #include <BFQtCustomWidgetPluginU/QItemLabel.h>
 
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMetaMethod>
 #include <QPushButton>
 
 using MV::ETextureChannel;
 
-/// The three pictures, which of them is current, and what the image editor is given of it.
+/// The three pictures: how they are drawn, which of them is current, and when they are drawn anew.
 class TestTextureThumbnails : public TestCase
 {
     Q_OBJECT
@@ -20,24 +24,19 @@ private Q_SLOTS:
     void failedStepEndsTheThumbnail_data();
     void failedStepEndsTheThumbnail();
     void pictureFillsTheLabel();
+    void widthIsToldBeforeTheHeight();
+    void hostIsHandedAnImageOfOnePixel();
     void clickMakesALabelCurrent_data();
     void clickMakesALabelCurrent();
     void keyMakesALabelCurrent();
+    void otherSendersMakeNoLabelCurrent_data();
+    void otherSendersMakeNoLabelCurrent();
     void labelsAreSilentWhileOneIsSelected();
     void currentTextureDecidesWhatIsEnabled_data();
     void currentTextureDecidesWhatIsEnabled();
     void otherTextureLeavesTheWidgetsAlone();
     void weightingLabelIsSelectedWithoutAsking();
     void previewShowsTheCurrentTexture();
-    void editorGetsTheCurrentTexture_data();
-    void editorGetsTheCurrentTexture();
-    void editorThatDoesNotStartIsToldToTheUser_data();
-    void editorThatDoesNotStartIsToldToTheUser();
-    void uvReferenceNeedsAHandle_data();
-    void uvReferenceNeedsAHandle();
-    void uvReferenceWithoutADiffuseTexture();
-    void uvReferenceThatFailsIsToldToTheUser_data();
-    void uvReferenceThatFailsIsToldToTheUser();
     void changedTextureIsDrawnAnew_data();
     void changedTextureIsDrawnAnew();
     void changedTextureOfAnotherObjectOrMaterial_data();
@@ -75,6 +74,28 @@ QColor ColourOf(const DialogFixture& fixture, const char* label)
 {
     const QPixmap picture = fixture.Find<QLabel>(label)->pixmap(Qt::ReturnByValue);
     return picture.isNull() ? QColor() : picture.toImage().pixelColor(picture.rect().center());
+}
+
+/// Scene service that writes down what images it is handed to draw into.
+class NotingScene : public Forwarding::SceneService
+{
+public:
+    using SceneService::SceneService;
+
+    BF::Result RenderThumbnail(int width, int height, BF::CHandle* thumbnail, BF::CHandle* source,
+                               QImage& image) override
+    {
+        images.append({image.size(), image.format()});
+        return SceneService::RenderThumbnail(width, height, thumbnail, source, image);
+    }
+
+    QVector<QPair<QSize, QImage::Format>> images;
+};
+
+QMetaMethod MethodOf(const QObject& object, const char* signature)
+{
+    const QMetaObject* meta = object.metaObject();
+    return meta->method(meta->indexOfMethod(signature));
 }
 
 /// The calls that concern \p channel, from the first such call to its drawing.
@@ -215,6 +236,37 @@ void TestTextureThumbnails::pictureFillsTheLabel()
     QCOMPARE(ColourOf(fixture, "qtWeightingItemLabel"), ImagePlan::Colour(ImagePlan::weightTexture));
 }
 
+void TestTextureThumbnails::widthIsToldBeforeTheHeight()
+{
+    DialogFixture fixture;
+    fixture.Open();
+    auto* label = fixture.Find<QItemLabel>("qtDiffuseItemLabel");
+    label->setFixedSize(100, 60);
+    QCOMPARE(label->size(), QSize(100, 60));
+    fixture.dialog->UpdateUi();
+    const QSize pixels = label->size() * label->devicePixelRatio();
+    QCOMPARE(
+        CallsOfChannel(fixture.Take(), 0).last(),
+        QStringLiteral("RenderThumbnail(%1, %2, unknown 0xd0, null) -> 0").arg(pixels.width()).arg(pixels.height()));
+    QCOMPARE(label->pixmap(Qt::ReturnByValue).size(), pixels);
+}
+
+void TestTextureThumbnails::hostIsHandedAnImageOfOnePixel()
+{
+    DialogFixture fixture;
+    fixture.Add();
+    fixture.List();
+    NotingScene scene(*fixture.host.GetSceneService());
+    HostWithScene host(fixture.host, scene);
+    MV::CSoftClothMaterialDlg dialog(&fixture.window, &fixture.plugin);
+    QCOMPARE(dialog.Init({}, {}, &host), BF::Results::Success);
+    dialog.show();
+    QCOMPARE(dialog.UpdateUi(), BF::Results::Success);
+    // The diffuse texture, the opacity texture, the weight image.
+    const QPair<QSize, QImage::Format> onePixel(QSize(1, 1), QImage::Format_ARGB32);
+    QCOMPARE(scene.images, (QVector<QPair<QSize, QImage::Format>>{onePixel, onePixel, onePixel}));
+}
+
 void TestTextureThumbnails::clickMakesALabelCurrent_data()
 {
     QTest::addColumn<QString>("label");
@@ -251,6 +303,41 @@ void TestTextureThumbnails::keyMakesALabelCurrent()
     fixture.Open();
     QTest::keyClick(fixture.Find<QItemLabel>("qtOpacityItemLabel"), Qt::Key_Space);
     QCOMPARE(SelectedLabels(fixture), QStringList{QStringLiteral("qtOpacityItemLabel")});
+}
+
+void TestTextureThumbnails::otherSendersMakeNoLabelCurrent_data()
+{
+    QTest::addColumn<QByteArray>("sender");
+    for (const char* sender : {"another label", "another widget", "nobody"}) {
+        QTest::newRow(sender) << QByteArray(sender);
+    }
+}
+
+void TestTextureThumbnails::otherSendersMakeNoLabelCurrent()
+{
+    QFETCH(const QByteArray, sender);
+    DialogFixture fixture;
+    fixture.Open();
+    ClickLabel(fixture, "qtOpacityItemLabel");
+    fixture.Take();
+    QItemLabel label;
+    QPushButton button;
+    const QMetaMethod slot = MethodOf(*fixture.dialog, "OnItemSelectedChanged()");
+    QObject::connect(&label, MethodOf(label, "SelectedChanged()"), fixture.dialog, slot);
+    QObject::connect(&button, MethodOf(button, "clicked()"), fixture.dialog, slot);
+    if (sender == "another label") {
+        QTest::mouseClick(&label, Qt::LeftButton);
+    } else if (sender == "another widget") {
+        QTest::mouseClick(&button, Qt::LeftButton);
+    } else {
+        QVERIFY(slot.invoke(fixture.dialog));
+    }
+    QCOMPARE(fixture.Take(), QStringList());
+    QCOMPARE(SelectedLabels(fixture), QStringList{QStringLiteral("qtOpacityItemLabel")});
+    QVERIFY(!label.IsSelected());
+    // The opacity texture is still the one that the buttons work on.
+    fixture.dialog->UpdateUi();
+    QCOMPARE(fixture.EnabledOf(switchedOff), QStringList());
 }
 
 void TestTextureThumbnails::labelsAreSilentWhileOneIsSelected()
@@ -358,148 +445,6 @@ void TestTextureThumbnails::previewShowsTheCurrentTexture()
     const QSize room = preview->contentsRect().size();
     QCOMPARE(shown.height(), qMin(room.width(), room.height()));
     QCOMPARE(shown.width(), shown.height());
-}
-
-void TestTextureThumbnails::editorGetsTheCurrentTexture_data()
-{
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QStringList>("calls");
-    const QString index = QStringLiteral(R"(GetMaterialIndex("Hero", "Skin", 0) -> 0)");
-    const QString path = QStringLiteral(R"(GetTexturePath("Hero", 0, %1, "%2") -> 0)");
-    const QString launch = QStringLiteral("LaunchImageEditor([\"%1\"]) -> 0");
-    QTest::newRow("diffuse") << QStringLiteral("qtDiffuseItemLabel")
-                             << QStringList{index, path.arg(0).arg(QStringLiteral("/d.png")),
-                                            launch.arg(QStringLiteral("/d.png"))};
-    QTest::newRow("opacity") << QStringLiteral("qtOpacityItemLabel")
-                             << QStringList{index, path.arg(1).arg(QStringLiteral("/o.png")),
-                                            launch.arg(QStringLiteral("/o.png"))};
-    QTest::newRow("weighting") << QStringLiteral("qtWeightingItemLabel")
-                               << QStringList{QStringLiteral(
-                                                  R"(GetWeightImageEditFile("Hero", "Body", "Skin", "/w.png") -> 0)"),
-                                              launch.arg(QStringLiteral("/w.png"))};
-    QTest::newRow("none yet") << QString()
-                              << QStringList{index, path.arg(-1).arg(QStringLiteral("/n.png")),
-                                             launch.arg(QStringLiteral("/n.png"))};
-}
-
-void TestTextureThumbnails::editorGetsTheCurrentTexture()
-{
-    QFETCH(const QString, label);
-    QFETCH(const QStringList, calls);
-    DialogFixture fixture;
-    fixture.Open();
-    ImagePlan& plan = fixture.host.plan;
-    plan.textures[ETextureChannel::Diffuse] = {true, true, false, QStringLiteral("/d.png")};
-    plan.textures[ETextureChannel::Opacity] = {true, true, false, QStringLiteral("/o.png")};
-    plan.textures[ETextureChannel::Weight] = {true, true, false, QStringLiteral("/n.png")};
-    plan.hasWeightTexture = true;
-    plan.weightEditFile = QStringLiteral("/w.png");
-    if (!label.isEmpty()) {
-        ClickLabel(fixture, label.toLatin1().constData());
-    }
-    fixture.Take();
-    fixture.Click("qtLaunchPushButton");
-    QCOMPARE(fixture.Take(), calls);
-}
-
-void TestTextureThumbnails::editorThatDoesNotStartIsToldToTheUser_data()
-{
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("operation");
-    const QString weighting = QStringLiteral("qtWeightingItemLabel");
-    const QString diffuse = QStringLiteral("qtDiffuseItemLabel");
-    QTest::newRow("weighting, editor") << weighting << QStringLiteral("LaunchImageEditor");
-    QTest::newRow("weighting, file") << weighting << QStringLiteral("GetWeightImageEditFile");
-    QTest::newRow("diffuse, editor") << diffuse << QStringLiteral("LaunchImageEditor");
-    QTest::newRow("diffuse, index") << diffuse << QStringLiteral("GetMaterialIndex");
-    QTest::newRow("diffuse, path") << diffuse << QStringLiteral("GetTexturePath");
-}
-
-void TestTextureThumbnails::editorThatDoesNotStartIsToldToTheUser()
-{
-    QFETCH(const QString, label);
-    QFETCH(const QString, operation);
-    DialogFixture fixture;
-    fixture.Open();
-    fixture.host.plan.textures[ETextureChannel::Diffuse] = {true, true, false, {}};
-    fixture.host.plan.hasWeightTexture = true;
-    ClickLabel(fixture, label.toLatin1().constData());
-    fixture.host.Faults().FailOperation(operation, BF::Results::Refused);
-    fixture.Take();
-    fixture.Click("qtLaunchPushButton");
-    const QStringList calls = fixture.Take();
-    QVERIFY(calls.at(calls.size() - 2).startsWith(operation));
-    QCOMPARE(calls.last(), Journal::Message(QStringLiteral("Failed to launch image editor.")));
-}
-
-void TestTextureThumbnails::uvReferenceNeedsAHandle_data()
-{
-    QTest::addColumn<quint32>("type");
-    QTest::addColumn<bool>("isMesh");
-    for (const quint32 type : {1U, 2U, 3U}) {
-        QTest::addRow("type %u", type) << type << true;
-    }
-    for (const quint32 type : {0U, 4U, 5U, 30U, 53U}) {
-        QTest::addRow("type %u", type) << type << false;
-    }
-}
-
-void TestTextureThumbnails::uvReferenceNeedsAHandle()
-{
-    QFETCH(const quint32, type);
-    QFETCH(const bool, isMesh);
-    DialogFixture fixture;
-    fixture.Open();
-    fixture.Selection().objectType = type;
-    fixture.Selection().mesh = fixture.MeshId(1);
-    fixture.Selection().material = fixture.MaterialId(2);
-    fixture.host.plan.textures[ETextureChannel::Diffuse].hasTexture = true;
-    fixture.host.plan.uvFiles = QStringList{QStringLiteral("/uv1.png"), QStringLiteral("/uv2.png")};
-    fixture.Click("qtUvRefPushButton");
-    QStringList calls = fixture.Take();
-    if (isMesh) {
-        QCOMPARE(calls.takeFirst(), QStringLiteral(R"(GetMeshHandle("Clothes", "Clothes") -> 0)"));
-    }
-    const QString handle = isMesh ? QStringLiteral("Clothes") : QStringLiteral("Hero");
-    QCOMPARE(calls,
-             (QStringList{QStringLiteral(R"(GetMaterialIndex("%1", "Skirt", 2) -> 0)").arg(handle),
-                          QStringLiteral(R"(GetMaterialTextureState("Skirt", 0, true, false, false, false) -> 0)"),
-                          QStringLiteral(R"(ExportUvTexture("%1", 2, 0, ["/uv1.png", "/uv2.png"]) -> 0)").arg(handle),
-                          QStringLiteral(R"(LaunchImageEditor(["/uv1.png", "/uv2.png"]) -> 0)")}));
-}
-
-void TestTextureThumbnails::uvReferenceWithoutADiffuseTexture()
-{
-    DialogFixture fixture;
-    fixture.Open();
-    fixture.Click("qtUvRefPushButton");
-    QCOMPARE(fixture.Take(),
-             (QStringList{QStringLiteral(R"(GetMeshHandle("Body", "Body") -> 0)"),
-                          QStringLiteral(R"(GetMaterialIndex("Body", "Skin", 0) -> 0)"),
-                          QStringLiteral(R"(GetMaterialTextureState("Skin", 0, false, false, false, false) -> 0)"),
-                          Journal::Message(QStringLiteral("Diffuse Uv Texture does not exist."))}));
-}
-
-void TestTextureThumbnails::uvReferenceThatFailsIsToldToTheUser_data()
-{
-    QTest::addColumn<QString>("operation");
-    for (const char* operation :
-         {"GetMeshHandle", "GetMaterialIndex", "GetMaterialTextureState", "ExportUvTexture", "LaunchImageEditor"}) {
-        QTest::newRow(operation) << QString::fromLatin1(operation);
-    }
-}
-
-void TestTextureThumbnails::uvReferenceThatFailsIsToldToTheUser()
-{
-    QFETCH(const QString, operation);
-    DialogFixture fixture;
-    fixture.Open();
-    fixture.host.plan.textures[ETextureChannel::Diffuse].hasTexture = true;
-    fixture.host.Faults().FailOperation(operation, BF::Results::Refused);
-    fixture.Click("qtUvRefPushButton");
-    const QStringList calls = fixture.Take();
-    QVERIFY(calls.at(calls.size() - 2).startsWith(operation));
-    QCOMPARE(calls.last(), Journal::Message(QStringLiteral("Failed to launch image editor.")));
 }
 
 void TestTextureThumbnails::changedTextureIsDrawnAnew_data()

@@ -1,65 +1,26 @@
 #include "tests/support/TestCase.h"
-#include "tests/unit/material/DialogFixture.h"
+#include "tests/unit/material/WeightFixture.h"
 
 #include <BFQtCustomWidgetPluginU/QComboSpinBox.h>
 #include <BFQtCustomWidgetPluginU/QItemLabel.h>
 
-#include <QDesktopServices>
-#include <QDir>
-#include <QDropEvent>
-#include <QFile>
 #include <QLineEdit>
-#include <QMimeData>
-#include <QPushButton>
+#include <QListWidget>
 #include <QSlider>
 #include <QSpinBox>
-#include <QTemporaryDir>
-#include <QUrl>
 
 using MV::ECompatibleApp;
 
-/// The commands on the weight image: loading with its checks, saving, deleting, embedding, its folder, brightness and
-/// contrast, and what the dialog shows of it.
+/// What the dialog shows of the weight image, and the writing of its brightness and contrast.
 class TestWeightImage : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void openButtonAsksTheHostForAFile();
-    void openButtonWithoutAChoiceDoesNothing_data();
-    void openButtonWithoutAChoiceDoesNothing();
-    void loadingIsChecked_data();
-    void loadingIsChecked();
-    void failedUndoEndsTheLoad_data();
-    void failedUndoEndsTheLoad();
-    void pathThatIsNoFileIsNotLoaded_data();
-    void pathThatIsNoFileIsNotLoaded();
-    void labelTakesImageFiles_data();
-    void labelTakesImageFiles();
-    void labelAsksTheHostForAFile();
-    void droppedFileIsLoaded();
-    void selectionMayChangeDuringTheMessage();
-    void dialogMayDieDuringTheMessage_data();
-    void dialogMayDieDuringTheMessage();
-    void dialogMayDieDuringTheFileDialogs_data();
-    void dialogMayDieDuringTheFileDialogs();
-    void savingTellsARefusal_data();
-    void savingTellsARefusal();
-    void savingWithoutAPathDoesNothing_data();
-    void savingWithoutAPathDoesNothing();
-    void deletingRefreshes_data();
-    void deletingRefreshes();
-    void embeddingDrawsAndUpdates_data();
-    void embeddingDrawsAndUpdates();
-    void embeddingSwitchesTheWidgets();
-    void failedStepEndsTheEmbedding_data();
-    void failedStepEndsTheEmbedding();
-    void folderIsOpened();
-    void folderOfAMissingFileIsToldToTheUser_data();
-    void folderOfAMissingFileIsToldToTheUser();
     void adjustmentIsWritten_data();
     void adjustmentIsWritten();
     void draggedSliderWritesWhileItMoves();
+    void refusedAdjustmentIsTakenBack_data();
     void refusedAdjustmentIsTakenBack();
     void otherFailureOfAnAdjustmentUpdatesTheSettings();
     void adjustmentIsReloadedWithoutAnEcho();
@@ -69,6 +30,8 @@ private Q_SLOTS:
     void settingsAreReadInOrder();
     void failedStepEndsTheSettings_data();
     void failedStepEndsTheSettings();
+    void currentRowDecidesWhetherTheImageIsListed_data();
+    void currentRowDecidesWhetherTheImageIsListed();
     void settingsDecideWhatIsEnabled_data();
     void settingsDecideWhatIsEnabled();
     void linkedThenEmbeddedSwapsTheWidgets();
@@ -79,73 +42,10 @@ private Q_SLOTS:
 
 namespace {
 
-const QString triple = QStringLiteral(R"("Hero", "Body", "Skin")");
-const QString refusal =
-    QStringLiteral("This image would create a soft cloth without any physics effect,\n because all the vertices of "
-                   "cloth mesh were set as zero weighting\n( black color ). Please modify the gray map or load other "
-                   "valid images.");
-const QString tooMany = QStringLiteral(
-    "The Generated cloth mesh count has exceeded the maximum 20,000 limit. Please try another legal image. ");
-
-constexpr int ok = 0x400;
-constexpr int cancel = 0x400000;
-
-/// An open dialog whose weighting label is current, and a folder with an image file.
-struct WeightFixture : DialogFixture
-{
-    explicit WeightFixture(ECompatibleApp app = ECompatibleApp::FamilyA)
-        : DialogFixture(app)
-    {
-        Open();
-        dialog->SelectWeightingLabel();
-        image = AddFile(QStringLiteral("gray.png"));
-    }
-
-    QString AddFile(const QString& name) const
-    {
-        const QString path = folder.filePath(name);
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly)) {
-            qFatal("%s cannot be written", qPrintable(path));
-        }
-        return path;
-    }
-
-    void Load(const QString& path)
-    {
-        host.Answers().AddFile(path);
-        Click("qtOpenFilePushButton");
-    }
-
-    QComboSpinBox& Brightness() const { return *Find<QComboSpinBox>("qtBrightnessCombospinbox"); }
-    QComboSpinBox& Contrast() const { return *Find<QComboSpinBox>("qtContrastCombospinbox"); }
-
-    QString OpenCall(const QString& path) const
-    {
-        return QStringLiteral("GetOpenImageFileName(\"%1\", 4, 71, 4) -> 0").arg(path);
-    }
-    QString LoadCall(const QString& path, const QString& result = QStringLiteral("0")) const
-    {
-        return QStringLiteral("LoadWeightImage(%1, \"%2\", 2) -> %3").arg(triple, path, result);
-    }
-
-    QTemporaryDir folder;
-    QString image;
-};
-
 /// The calls of a settings update with redraw, where brightness and contrast are not read again.
 const QStringList drawnSettings{QStringLiteral("GetWeightTexture"), QStringLiteral("GetWeightImageState"),
                                 QStringLiteral("IsMaterialSoftClothEnabled"), QStringLiteral("GetThumbnailSourceImage"),
                                 QStringLiteral("RenderThumbnail")};
-
-QString BoxText(const QString& text, int buttons, int defaultButton, int answer)
-{
-    return QStringLiteral("ShowMessageBox(\"%1\", \"\", MV::CSoftClothMaterialDlg, 2, %2, %3) -> %4")
-        .arg(text)
-        .arg(buttons)
-        .arg(defaultButton)
-        .arg(answer);
-}
 
 /// Widgets that the settings of the weight image switch.
 const QStringList settingWidgets{QStringLiteral("frame"),
@@ -164,415 +64,6 @@ const QStringList settingWidgets{QStringLiteral("frame"),
                                  QStringLiteral("qtContrastCombospinbox")};
 
 } // namespace
-
-void TestWeightImage::openButtonAsksTheHostForAFile()
-{
-    WeightFixture fixture;
-    fixture.Load(fixture.image);
-    QCOMPARE(fixture.Take(), (QStringList{fixture.OpenCall(fixture.image), fixture.LoadCall(fixture.image),
-                                          Journal::RefreshScene(), Journal::Refresh()}));
-}
-
-void TestWeightImage::openButtonWithoutAChoiceDoesNothing_data()
-{
-    QTest::addColumn<bool>("fails");
-    QTest::newRow("cancelled") << false;
-    QTest::newRow("failed") << true;
-}
-
-void TestWeightImage::openButtonWithoutAChoiceDoesNothing()
-{
-    QFETCH(const bool, fails);
-    WeightFixture fixture;
-    if (fails) {
-        fixture.host.Faults().FailOperation(QStringLiteral("GetOpenImageFileName"), BF::Results::Refused);
-    }
-    fixture.Load({});
-    QCOMPARE(fixture.TakeOperations(), QStringList{QStringLiteral("GetOpenImageFileName")});
-}
-
-void TestWeightImage::loadingIsChecked_data()
-{
-    QTest::addColumn<quint32>("status");
-    QTest::addColumn<int>("answer"); ///< 0: the box is closed without a choice.
-    QTest::addColumn<QStringList>("calls");
-    const QString undo = QStringLiteral("UndoLastEdit() -> 0");
-    const QString scene = Journal::RefreshScene();
-    QTest::newRow("all black") << 0x80000006U << ok << QStringList{BoxText(refusal, ok, 0, ok), undo, scene};
-    QTest::newRow("another failure") << 0x80000004U << ok << QStringList{BoxText({}, ok, 0, ok), undo, scene};
-    QTest::newRow("too many vertices, kept") << 1U << ok << QStringList{BoxText(tooMany, 0x400400, ok, ok), scene};
-    QTest::newRow("too many vertices, taken back")
-        << 1U << cancel << QStringList{BoxText(tooMany, 0x400400, ok, cancel), undo, scene};
-    QTest::newRow("too many vertices, box closed")
-        << 1U << 0 << QStringList{BoxText(tooMany, 0x400400, ok, cancel), undo, scene};
-    QTest::newRow("any other answer takes it back")
-        << 1U << 0x800 << QStringList{BoxText(tooMany, 0x400400, ok, 0x800), undo, scene};
-    QTest::newRow("cancelled by the user") << 2U << ok << QStringList{BoxText({}, ok, 0, ok), scene};
-}
-
-void TestWeightImage::loadingIsChecked()
-{
-    QFETCH(const quint32, status);
-    QFETCH(const int, answer);
-    QFETCH(const QStringList, calls);
-    WeightFixture fixture;
-    fixture.host.Faults().FailOperation(QStringLiteral("LoadWeightImage"), BF::Result(status));
-    if (answer != 0) {
-        fixture.host.Answers().AddButton(answer);
-    }
-    fixture.Load(fixture.image);
-    const BF::Result result(status);
-    const QString shown = result.IsFailure() ? QStringLiteral("0x%1").arg(status, 0, 16) : QString::number(status);
-    QCOMPARE(fixture.Take(), QStringList({fixture.OpenCall(fixture.image), fixture.LoadCall(fixture.image, shown)}) +
-                                 calls + QStringList{Journal::Refresh()});
-}
-
-void TestWeightImage::failedUndoEndsTheLoad_data()
-{
-    QTest::addColumn<quint32>("status");
-    QTest::addColumn<int>("answer");
-    QTest::newRow("all black") << 0x80000006U << ok;
-    QTest::newRow("taken back by the user") << 1U << cancel;
-}
-
-void TestWeightImage::failedUndoEndsTheLoad()
-{
-    QFETCH(const quint32, status);
-    QFETCH(const int, answer);
-    WeightFixture fixture;
-    fixture.host.Faults().FailOperation(QStringLiteral("LoadWeightImage"), BF::Result(status));
-    fixture.host.Faults().FailOperation(QStringLiteral("UndoLastEdit"), BF::Results::IndexOutOfRange);
-    fixture.host.Answers().AddButton(answer);
-    fixture.Load(fixture.image);
-    QCOMPARE(fixture.TakeOperations(),
-             (QStringList{QStringLiteral("GetOpenImageFileName"), QStringLiteral("LoadWeightImage"),
-                          QStringLiteral("ShowMessageBox"), QStringLiteral("UndoLastEdit"),
-                          QStringLiteral("IsPhysicsActive")}));
-}
-
-void TestWeightImage::pathThatIsNoFileIsNotLoaded_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("missing") << QStringLiteral("missing.png");
-    QTest::newRow("folder") << QString();
-}
-
-void TestWeightImage::pathThatIsNoFileIsNotLoaded()
-{
-    QFETCH(const QString, name);
-    WeightFixture fixture;
-    const QString path = fixture.folder.filePath(name);
-    fixture.Load(path);
-    QCOMPARE(fixture.Take(),
-             (QStringList{fixture.OpenCall(path), Journal::Message(QStringLiteral("InValid File Path."))}));
-}
-
-void TestWeightImage::labelTakesImageFiles_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isTaken");
-    for (const char* suffix : {"jpg", "jpeg", "bmp", "gif", "png", "tga", "PNG"}) {
-        QTest::newRow(suffix) << QStringLiteral("image.") + QLatin1String(suffix) << true;
-    }
-    QTest::newRow("tiff") << QStringLiteral("image.tiff") << false;
-    QTest::newRow("no suffix") << QStringLiteral("image") << false;
-}
-
-void TestWeightImage::labelTakesImageFiles()
-{
-    QFETCH(const QString, name);
-    QFETCH(const bool, isTaken);
-    WeightFixture fixture;
-    const QString path = fixture.AddFile(name);
-    fixture.host.Answers().AddFile(path);
-    QTest::mouseDClick(fixture.Find<QItemLabel>("qtWeightingItemLabel"), Qt::LeftButton);
-    const QStringList calls = fixture.Take();
-    QVERIFY(calls.contains(fixture.OpenCall(path)));
-    QCOMPARE(calls.contains(fixture.LoadCall(path)), isTaken);
-}
-
-void TestWeightImage::labelAsksTheHostForAFile()
-{
-    WeightFixture fixture;
-    QTest::mouseDClick(fixture.Find<QItemLabel>("qtWeightingItemLabel"), Qt::LeftButton);
-    QVERIFY(fixture.TakeOperations().endsWith(QStringLiteral("GetOpenImageFileName")));
-    for (const char* other : {"qtDiffuseItemLabel", "qtOpacityItemLabel"}) {
-        QTest::mouseDClick(fixture.Find<QItemLabel>(other), Qt::LeftButton);
-        QVERIFY(!fixture.TakeOperations().contains(QStringLiteral("GetOpenImageFileName")));
-    }
-}
-
-void TestWeightImage::droppedFileIsLoaded()
-{
-    WeightFixture fixture;
-    QMimeData mime;
-    mime.setUrls({QUrl::fromLocalFile(fixture.image)});
-    auto* label = fixture.Find<QItemLabel>("qtWeightingItemLabel");
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(label, &enter);
-    QVERIFY(enter.isAccepted());
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(label, &drop);
-    QCOMPARE(fixture.Take(),
-             (QStringList{fixture.LoadCall(fixture.image), Journal::RefreshScene(), Journal::Refresh()}));
-}
-
-void TestWeightImage::selectionMayChangeDuringTheMessage()
-{
-    WeightFixture fixture;
-    BF::CHandle* other = fixture.host.CurrentScene().AddObject(SampleModels::Flag()).handle;
-    fixture.host.Faults().FailOperation(QStringLiteral("LoadWeightImage"), BF::Results::Refused);
-    fixture.During("ShowMessageBox", [&] { fixture.Selection().object = other; });
-    fixture.Load(fixture.image);
-    QCOMPARE(fixture.Take().constLast(), QStringLiteral(R"(IsPhysicsActive("Flag", 3, false) -> 0)"));
-}
-
-void TestWeightImage::dialogMayDieDuringTheMessage_data()
-{
-    QTest::addColumn<quint32>("status");
-    QTest::newRow("all black") << 0x80000006U;
-    QTest::newRow("too many vertices") << 1U;
-}
-
-void TestWeightImage::dialogMayDieDuringTheMessage()
-{
-    QFETCH(const quint32, status);
-    WeightFixture fixture;
-    fixture.host.Faults().FailOperation(QStringLiteral("LoadWeightImage"), BF::Result(status));
-    fixture.During("ShowMessageBox", [&] { delete fixture.dialog; });
-    QMetaObject::invokeMethod(fixture.dialog, "OnLoadWeightImage", Q_ARG(QString, fixture.image));
-    QVERIFY(!fixture.dialog);
-    QCOMPARE(fixture.TakeOperations(),
-             (QStringList{QStringLiteral("LoadWeightImage"), QStringLiteral("ShowMessageBox")}));
-}
-
-void TestWeightImage::dialogMayDieDuringTheFileDialogs_data()
-{
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<QString>("button");
-    QTest::newRow("open") << QStringLiteral("GetOpenImageFileName") << QStringLiteral("OnClickOpenFilePushButton");
-    QTest::newRow("save") << QStringLiteral("GetSaveImageFileName") << QStringLiteral("OnClickSaveFilePushButton");
-}
-
-void TestWeightImage::dialogMayDieDuringTheFileDialogs()
-{
-    QFETCH(const QString, operation);
-    QFETCH(const QString, button);
-    WeightFixture fixture;
-    fixture.host.Answers().AddFile(fixture.image);
-    fixture.During(operation.toLatin1().constData(), [&] { delete fixture.dialog; });
-    QMetaObject::invokeMethod(fixture.dialog, button.toLatin1().constData());
-    QVERIFY(!fixture.dialog);
-    QCOMPARE(fixture.TakeOperations(), QStringList{operation});
-}
-
-void TestWeightImage::savingTellsARefusal_data()
-{
-    QTest::addColumn<quint32>("status");
-    QTest::addColumn<bool>("isTold");
-    QTest::newRow("saved") << 0U << false;
-    QTest::newRow("refused") << 0x80000006U << true;
-    QTest::newRow("another failure") << 0x80000003U << false;
-    QTest::newRow("nothing done") << 1U << false;
-}
-
-void TestWeightImage::savingTellsARefusal()
-{
-    QFETCH(const quint32, status);
-    QFETCH(const bool, isTold);
-    WeightFixture fixture;
-    const QString path = QStringLiteral("/somewhere/new.png");
-    fixture.host.Answers().AddFile(path);
-    if (status != 0) {
-        fixture.host.Faults().FailOperation(QStringLiteral("SaveWeightImage"), BF::Result(status));
-    }
-    fixture.Click("qtSaveFilePushButton");
-    const QStringList calls = fixture.Take();
-    QCOMPARE(calls.at(0), QStringLiteral("GetSaveImageFileName(\"%1\", 4, 71, 4, \"\") -> 0").arg(path));
-    QVERIFY(calls.at(1).startsWith(QStringLiteral("SaveWeightImage(%1, \"%2\") -> ").arg(triple, path)));
-    QCOMPARE(calls.mid(2),
-             isTold ? QStringList{Journal::Message(QStringLiteral("Failed to save weight image."))} : QStringList());
-}
-
-void TestWeightImage::savingWithoutAPathDoesNothing_data()
-{
-    openButtonWithoutAChoiceDoesNothing_data();
-}
-
-void TestWeightImage::savingWithoutAPathDoesNothing()
-{
-    QFETCH(const bool, fails);
-    WeightFixture fixture;
-    if (fails) {
-        fixture.host.Faults().FailOperation(QStringLiteral("GetSaveImageFileName"), BF::Results::Refused);
-    }
-    fixture.Click("qtSaveFilePushButton");
-    QCOMPARE(fixture.TakeOperations(), QStringList{QStringLiteral("GetSaveImageFileName")});
-}
-
-void TestWeightImage::deletingRefreshes_data()
-{
-    QTest::addColumn<bool>("fails");
-    QTest::newRow("deleted") << false;
-    QTest::newRow("failed") << true;
-}
-
-void TestWeightImage::deletingRefreshes()
-{
-    QFETCH(const bool, fails);
-    WeightFixture fixture;
-    if (fails) {
-        fixture.host.Faults().FailOperation(QStringLiteral("DeleteWeightImage"), BF::Results::Refused);
-    }
-    fixture.Click("qtDeleteFilePushButton");
-    const QStringList calls = fixture.Take();
-    QVERIFY(calls.first().startsWith(QStringLiteral("DeleteWeightImage(%1)").arg(triple)));
-    QCOMPARE(calls.size(), 11);
-    QVERIFY(calls.at(1).startsWith(QStringLiteral("GetMaterialTextureState(\"Skin\", 0")));
-    QVERIFY(!calls.contains(Journal::Refresh()));
-}
-
-void TestWeightImage::embeddingDrawsAndUpdates_data()
-{
-    QTest::addColumn<bool>("hasTexture");
-    QTest::addColumn<QStringList>("calls");
-    const QString embed = QStringLiteral("EmbedWeightImage(%1) -> 0").arg(triple);
-    const QString texture = QStringLiteral("GetWeightTexture(%1, %2) -> 0");
-    const QString draw = Journal::Draw(QStringLiteral("%1"), QStringLiteral("%2"));
-    const QString none = QStringLiteral("null");
-    const QString weight = QStringLiteral("unknown 0xe0");
-    const QString standIn = QStringLiteral("unknown 0xd0");
-    const QString source = QStringLiteral("unknown 0xe1");
-    const QString getDefault = QStringLiteral("GetDefaultThumbnail(unknown 0xd0) -> 0");
-    QTest::newRow("with a texture")
-        << true
-        << QStringList{embed,
-                       texture.arg(triple, weight),
-                       draw.arg(weight, none),
-                       texture.arg(triple, weight),
-                       QStringLiteral("GetWeightImageState(%1, {hasFile=false, embedded=false, reload=false}) -> 0")
-                           .arg(triple),
-                       QStringLiteral("IsMaterialSoftClothEnabled(\"Skin\") -> true"),
-                       QStringLiteral("GetThumbnailSourceImage(unknown 0xe0, unknown 0xe1) -> true"),
-                       draw.arg(weight, source)};
-    QTest::newRow("without a texture")
-        << false
-        << QStringList{embed,
-                       texture.arg(triple, none),
-                       getDefault,
-                       draw.arg(standIn, none),
-                       texture.arg(triple, none),
-                       getDefault,
-                       QStringLiteral("GetThumbnailSourceImage(unknown 0xd0, unknown 0xe1) -> true"),
-                       draw.arg(standIn, source)};
-}
-
-void TestWeightImage::embeddingDrawsAndUpdates()
-{
-    QFETCH(const bool, hasTexture);
-    QFETCH(const QStringList, calls);
-    WeightFixture fixture;
-    fixture.host.plan.hasWeightTexture = hasTexture;
-    fixture.host.plan.weightHasSource = true;
-    fixture.Click("qtEmbedTexturePushButton");
-    QCOMPARE(fixture.Take(), calls);
-}
-
-void TestWeightImage::embeddingSwitchesTheWidgets()
-{
-    WeightFixture fixture;
-    const QStringList off{QStringLiteral("qtBitmapLabel"), QStringLiteral("qtBitmapPathLineEdit"),
-                          QStringLiteral("qtOpenPathPushButton"), QStringLiteral("qtEmbedTexturePushButton")};
-    const QStringList on{QStringLiteral("qtLaunchPushButton"), QStringLiteral("qtBrightnessCombospinbox"),
-                         QStringLiteral("qtContrastCombospinbox")};
-    for (const QString& name : on) {
-        fixture.Find<QWidget>(name.toLatin1().constData())->setEnabled(false);
-    }
-    fixture.Find<QLineEdit>("qtBitmapPathLineEdit")->setText(QStringLiteral("stale"));
-    // The last question comes after the switching and decides anew; without its answer the switching stands alone.
-    fixture.host.plan.hasWeightTexture = true;
-    fixture.host.Faults().FailOperation(QStringLiteral("GetWeightImageState"), BF::Results::Refused);
-    fixture.Click("qtEmbedTexturePushButton");
-    QCOMPARE(fixture.EnabledOf(off), QStringList());
-    QCOMPARE(fixture.EnabledOf(on), on);
-    QCOMPARE(fixture.Find<QLineEdit>("qtBitmapPathLineEdit")->text(), QString());
-}
-
-void TestWeightImage::failedStepEndsTheEmbedding_data()
-{
-    QTest::addColumn<int>("call"); ///< Number of the failing call among those that have a status.
-    QTest::addColumn<QString>("operation");
-    QTest::newRow("embedding") << 1 << QStringLiteral("EmbedWeightImage");
-    QTest::newRow("texture") << 2 << QStringLiteral("GetWeightTexture");
-    QTest::newRow("default thumbnail") << 3 << QStringLiteral("GetDefaultThumbnail");
-    QTest::newRow("drawing") << 4 << QStringLiteral("RenderThumbnail");
-}
-
-void TestWeightImage::failedStepEndsTheEmbedding()
-{
-    QFETCH(const int, call);
-    QFETCH(const QString, operation);
-    WeightFixture fixture;
-    fixture.host.Faults().FailCall(call, BF::Results::Refused);
-    fixture.Click("qtEmbedTexturePushButton");
-    const QStringList operations = fixture.TakeOperations();
-    QCOMPARE(operations.size(), call);
-    QCOMPARE(operations.last(), operation);
-    QVERIFY(fixture.IsEnabled(QStringLiteral("qtEmbedTexturePushButton")));
-}
-
-/// Takes the place of the desktop's opener.
-class FolderOpener : public QObject
-{
-    Q_OBJECT
-
-public:
-    FolderOpener() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Open"); }
-    ~FolderOpener() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
-
-    QVector<QUrl> opened;
-
-public Q_SLOTS:
-    void Open(const QUrl& url) { opened.append(url); }
-};
-
-void TestWeightImage::folderIsOpened()
-{
-    FolderOpener opener;
-    WeightFixture fixture;
-    // By a way round, so that the canonical path shows.
-    QVERIFY(QDir(fixture.folder.path()).mkdir(QStringLiteral("side")));
-    fixture.host.plan.weightPath = fixture.folder.filePath(QStringLiteral("side/../gray.png"));
-    fixture.Click("qtOpenPathPushButton");
-    QCOMPARE(opener.opened, QVector<QUrl>{QUrl::fromLocalFile(QDir(fixture.folder.path()).canonicalPath())});
-    QCOMPARE(
-        fixture.Take(),
-        QStringList{QStringLiteral("GetWeightImagePath(%1, \"%2\") -> 0").arg(triple, fixture.host.plan.weightPath)});
-}
-
-void TestWeightImage::folderOfAMissingFileIsToldToTheUser_data()
-{
-    QTest::addColumn<bool>("fails");
-    QTest::addColumn<QString>("path");
-    QTest::newRow("missing") << false << QStringLiteral("/nowhere/gray.png");
-    QTest::newRow("empty") << false << QString();
-    QTest::newRow("no answer") << true << QString();
-}
-
-void TestWeightImage::folderOfAMissingFileIsToldToTheUser()
-{
-    QFETCH(const bool, fails);
-    QFETCH(const QString, path);
-    FolderOpener opener;
-    WeightFixture fixture;
-    fixture.host.plan.weightPath = path;
-    if (fails) {
-        fixture.host.Faults().FailOperation(QStringLiteral("GetWeightImagePath"), BF::Results::Refused);
-    }
-    fixture.Click("qtOpenPathPushButton");
-    QCOMPARE(opener.opened, QVector<QUrl>());
-    QCOMPARE(fixture.Take().mid(1), QStringList{Journal::Message(QStringLiteral("InValid File Path."))});
-}
 
 void TestWeightImage::adjustmentIsWritten_data()
 {
@@ -638,16 +129,25 @@ void TestWeightImage::draggedSliderWritesWhileItMoves()
     QVERIFY(writes.first().endsWith(QStringLiteral("{brightness=%1, contrast=0}, true, true) -> 0").arg(value)));
 }
 
+void TestWeightImage::refusedAdjustmentIsTakenBack_data()
+{
+    QTest::addColumn<bool>("undoFails");
+    QTest::newRow("taken back") << false;
+    QTest::newRow("not taken back") << true;
+}
+
 void TestWeightImage::refusedAdjustmentIsTakenBack()
 {
+    QFETCH(const bool, undoFails);
     WeightFixture fixture;
     fixture.host.Faults().FailOperation(QStringLiteral("SetWeightImageAdjust"), BF::Results::Refused);
+    if (undoFails) {
+        fixture.host.Faults().FailOperation(QStringLiteral("UndoLastEdit"), BF::Results::IndexOutOfRange);
+    }
     fixture.Brightness().SetValue(-100);
     const QStringList operations = fixture.TakeOperations();
-    QCOMPARE(operations.mid(0, 3), (QStringList{QStringLiteral("SetWeightImageAdjust"), QStringLiteral("UndoLastEdit"),
-                                                QStringLiteral("GetMaterialTextureState")}));
-    QCOMPARE(operations.size(), 12);
-    QVERIFY(!operations.contains(QStringLiteral("ShowMessageBox")));
+    QCOMPARE(operations, QStringList({QStringLiteral("SetWeightImageAdjust"), QStringLiteral("UndoLastEdit")}) +
+                             Journal::DialogRefresh());
 }
 
 void TestWeightImage::otherFailureOfAnAdjustmentUpdatesTheSettings()
@@ -676,30 +176,39 @@ void TestWeightImage::adjustmentIsReloadedWithoutAnEcho()
 
 void TestWeightImage::reloadIsDecidedByStateOrArgument_data()
 {
-    QTest::addColumn<bool>("redraw");
+    QTest::addColumn<QByteArray>("by");
     QTest::addColumn<bool>("stateSaysReload");
     QTest::addColumn<bool>("reloads");
-    // With redraw by a refresh, without by a click on the weighting label, which asks for it.
-    QTest::newRow("redraw, state yes") << true << true << true;
-    QTest::newRow("redraw, state no; the argument is ignored") << true << false << false;
-    QTest::newRow("no redraw, state no; the argument counts") << false << false << true;
-    QTest::newRow("no redraw, state yes") << false << true << true;
+    // A refresh draws anew and asks for a reload, a click on the label only asks for one, a click on a row does
+    // neither.
+    const auto rows = [](const char* by, bool reloadsIfStateSaysSo, bool reloadsOtherwise) {
+        QTest::addRow("%s, state yes", by) << QByteArray(by) << true << reloadsIfStateSaysSo;
+        QTest::addRow("%s, state no", by) << QByteArray(by) << false << reloadsOtherwise;
+    };
+    rows("refresh", true, false);
+    rows("label", true, true);
+    rows("row", false, false);
 }
 
 void TestWeightImage::reloadIsDecidedByStateOrArgument()
 {
-    QFETCH(const bool, redraw);
+    QFETCH(const QByteArray, by);
     QFETCH(const bool, stateSaysReload);
     QFETCH(const bool, reloads);
-    WeightFixture fixture;
+    WeightFixture fixture(ECompatibleApp::FamilyB);
     fixture.host.plan.hasWeightTexture = true;
     fixture.host.plan.weightState.reload = stateSaysReload;
-    if (redraw) {
+    if (by == "refresh") {
         fixture.dialog->UpdateUi();
-    } else {
+    } else if (by == "label") {
         QTest::mouseClick(fixture.Find<QItemLabel>("qtWeightingItemLabel"), Qt::LeftButton);
+    } else {
+        auto* list = fixture.Find<QListWidget>("qtMaterialListWidget");
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
     }
-    QCOMPARE(fixture.TakeOperations().contains(QStringLiteral("GetWeightImageAdjust")), reloads);
+    const QStringList operations = fixture.TakeOperations();
+    QVERIFY(operations.contains(QStringLiteral("GetWeightImageState")));
+    QCOMPARE(operations.contains(QStringLiteral("GetWeightImageAdjust")), reloads);
 }
 
 void TestWeightImage::settingsAreReadInOrder_data()
@@ -759,6 +268,30 @@ void TestWeightImage::failedStepEndsTheSettings()
     fixture.host.Faults().FailOperation(operation, BF::Results::IndexOutOfRange);
     QCOMPARE(fixture.dialog->UpdateUi(), BF::Results::IndexOutOfRange);
     QCOMPARE(fixture.TakeOperations().constLast(), operation);
+}
+
+void TestWeightImage::currentRowDecidesWhetherTheImageIsListed_data()
+{
+    QTest::addColumn<bool>("rowIsOffered");
+    QTest::newRow("row offered, selected material not") << true;
+    QTest::newRow("selected material offered, row not") << false;
+}
+
+void TestWeightImage::currentRowDecidesWhetherTheImageIsListed()
+{
+    QFETCH(const bool, rowIsOffered);
+    WeightFixture fixture;
+    fixture.host.plan.hasWeightTexture = true;
+    fixture.object->materials.at(0).state.softClothEnabled = rowIsOffered;
+    fixture.object->materials.at(1).state.softClothEnabled = !rowIsOffered;
+    fixture.Selection().material = fixture.MaterialId(1);
+    fixture.dialog->UpdateUi();
+    const QStringList calls = fixture.Take();
+    QVERIFY(calls.contains(QStringLiteral(R"(GetWeightTexture("Hero", "Body", "Hair", unknown 0xe0) -> 0)")));
+    QCOMPARE(calls.filter(QStringLiteral("IsMaterialSoftClothEnabled")),
+             QStringList{QStringLiteral("IsMaterialSoftClothEnabled(\"Skin\") -> %1")
+                             .arg(rowIsOffered ? QStringLiteral("true") : QStringLiteral("false"))});
+    QCOMPARE(fixture.IsEnabled(QStringLiteral("qtDeleteFilePushButton")), rowIsOffered);
 }
 
 void TestWeightImage::settingsDecideWhatIsEnabled_data()
