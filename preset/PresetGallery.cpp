@@ -27,14 +27,15 @@ std::optional<int> ToNumber(const QString& text)
     return isNumber ? std::make_optional(number) : std::nullopt;
 }
 
-/// Reads an image no larger than it will be shown on the sharpest screen; null when the file is no image.
+/// Reads an image no larger than it will be shown on the sharpest screen, and as it is when \p shown is no size; null
+/// when the file is no image.
 QPixmap ReadThumbnail(const QString& path, const QSize& shown)
 {
     const qreal pixelRatio = qGuiApp->devicePixelRatio();
     QImageReader reader(path);
     const QSize stored = reader.size();
     const QSize wanted = shown * pixelRatio;
-    if (stored.width() > wanted.width() || stored.height() > wanted.height()) {
+    if (shown.isValid() && (stored.width() > wanted.width() || stored.height() > wanted.height())) {
         reader.setScaledSize(stored.scaled(wanted, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
     }
     QPixmap thumbnail = QPixmap::fromImage(reader.read());

@@ -26,19 +26,21 @@ constexpr int profileFolder = 72;
 
 const QString gravityKey = QStringLiteral("Use_Global_Gravity");
 
-/// The group of a section that may be missing: it is skipped then.
+/// The group of a section that may be missing, like the whole plug-in after the host calls of another group: it is
+/// skipped then.
 template <class Section>
-ProfileGroup GroupOf(const QString& name, const CPhysicsSoftClothPlugin& plugin,
+ProfileGroup GroupOf(const QString& name, const QPointer<CPhysicsSoftClothPlugin>& plugin,
                      Section* (CPhysicsSoftClothPlugin::*section)() const)
 {
-    const auto load = [&plugin, section](QSettings& profile) {
-        if (Section* existing = (plugin.*section)()) {
+    const auto find = [plugin, section]() -> Section* { return plugin ? (plugin.data()->*section)() : nullptr; };
+    const auto load = [find](QSettings& profile) {
+        if (Section* existing = find()) {
             existing->LoadProfile(profile);
         }
         return BF::Result(BF::Results::Success);
     };
-    const auto save = [&plugin, section](QSettings& profile) {
-        if (const Section* existing = (plugin.*section)()) {
+    const auto save = [find](QSettings& profile) {
+        if (const Section* existing = find()) {
             existing->SaveProfile(profile);
         }
     };
@@ -78,10 +80,11 @@ std::vector<ProfileGroup> CSoftClothPresetSection::ProfileGroups()
         profile.setValue(gravityKey, IsChecked(m_ui.useWorldGravityCheckBox));
     };
     using Plugin = CPhysicsSoftClothPlugin;
+    const QPointer<Plugin> plugin(m_plugin);
     return {{QStringLiteral("Preset"), load, save},
-            GroupOf(QStringLiteral("Property"), *m_plugin, &Plugin::PropertySection),
-            GroupOf(QStringLiteral("Collision"), *m_plugin, &Plugin::CollisionSection),
-            GroupOf(QStringLiteral("Wind_Setting"), *m_plugin, &Plugin::WindSection)};
+            GroupOf(QStringLiteral("Property"), plugin, &Plugin::PropertySection),
+            GroupOf(QStringLiteral("Collision"), plugin, &Plugin::CollisionSection),
+            GroupOf(QStringLiteral("Wind_Setting"), plugin, &Plugin::WindSection)};
 }
 
 BF::Result CSoftClothPresetSection::LoadProfileFile(const QString& path)

@@ -1,5 +1,6 @@
 #include "preset/ProfileFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -41,19 +42,38 @@ bool IsWhole(const QByteArray& content, int keys)
     return keys == 0 && content.endsWith('\n');
 }
 
-/// What the file at \p path is to contain: what it contains now, with the groups saved over it.
+/// A copy of a profile for the store to work on, in a place that it does not know yet.
 ///
-/// The store works on a copy. On the file itself it would keep what it failed to write and write it the next time that
-/// anybody opens the file, be it only to read.
-std::optional<QByteArray> MergedContent(const QString& path, const std::vector<ProfileGroup>& groups)
+/// The store keeps what it has read of a file and takes it for the file's content as long as size and time are the
+/// same. It also keeps what it failed to write and writes it the next time that anybody opens the file, be it only to
+/// read.
+class CWorkingCopy
 {
-    const QTemporaryDir folder;
-    const QString copy = folder.filePath(QStringLiteral("profile.ini"));
-    const auto old = QFile::exists(path) ? ReadAll(path) : QByteArray();
-    if (!folder.isValid() || !old || !WriteAll(copy, *old)) {
+public:
+    CWorkingCopy(const QByteArray& content, const QString& folder)
+        : m_folder(folder + QLatin1String("/profile-XXXXXX"))
+        , m_isMade(m_folder.isValid() && WriteAll(Path(), content))
+    {
+    }
+
+    bool IsMade() const { return m_isMade; }
+    QString Path() const { return m_folder.filePath(QStringLiteral("profile.ini")); }
+
+private:
+    QTemporaryDir m_folder;
+    bool m_isMade;
+};
+
+/// What a file that contains \p old is to contain: the same, with the groups saved over it.
+/// \param folder  where the work is done
+std::optional<QByteArray> MergedContent(const QByteArray& old, const QString& folder,
+                                        const std::vector<ProfileGroup>& groups)
+{
+    const CWorkingCopy copy(old, folder);
+    if (!copy.IsMade()) {
         return std::nullopt;
     }
-    QSettings profile(copy, QSettings::IniFormat);
+    QSettings profile(copy.Path(), QSettings::IniFormat);
     profile.setIniCodec(profileCodec);
     for (const ProfileGroup& group : groups) {
         profile.beginGroup(group.name);
@@ -61,7 +81,7 @@ std::optional<QByteArray> MergedContent(const QString& path, const std::vector<P
         profile.endGroup();
     }
     profile.sync();
-    const auto content = ReadAll(copy);
+    const auto content = ReadAll(copy.Path());
     const bool isWritten = profile.status() != QSettings::AccessError;
     return isWritten && content && IsWhole(*content, profile.allKeys().size()) ? content : std::nullopt;
 }
@@ -74,10 +94,12 @@ EProfileProblem LoadProfile(const QString& path, const std::vector<ProfileGroup>
     if (!QFileInfo(path).isFile()) {
         return EProfileProblem::InvalidPath;
     }
-    if (!QFile(path).open(QIODevice::ReadOnly)) {
+    const auto content = ReadAll(path);
+    if (!content) {
         return EProfileProblem::Unreadable;
     }
-    QSettings profile(path, QSettings::IniFormat);
+    const CWorkingCopy copy(*content, QDir::tempPath());
+    QSettings profile(copy.IsMade() ? copy.Path() : path, QSettings::IniFormat);
     profile.setIniCodec(profileCodec);
     const QStringList present = profile.childGroups();
     for (const ProfileGroup& group : groups) {
@@ -95,7 +117,15 @@ EProfileProblem SaveProfile(const QString& path, const std::vector<ProfileGroup>
     if (!QSettings(path, QSettings::IniFormat).isWritable()) {
         return EProfileProblem::Unwritable;
     }
-    const auto content = MergedContent(path, groups);
+    const auto old = QFile::exists(path) ? ReadAll(path) : QByteArray();
+    if (!old) {
+        return EProfileProblem::Unwritable;
+    }
+    auto content = MergedContent(*old, QDir::tempPath(), groups);
+    if (!content) {
+        // No room for temporary files; the profile's own folder must have some anyway.
+        content = MergedContent(*old, QFileInfo(path).absolutePath(), groups);
+    }
     return content && WriteAll(path, *content) ? EProfileProblem::None : EProfileProblem::Unwritable;
 }
 

@@ -39,6 +39,13 @@ bool IsUnconvertibleType(quint32 type)
     return type == 1 || type == 2 || type == 3;
 }
 
+/// Whether \p now is the material that \p before was, and soft cloth.
+bool IsStillShown(const SoftClothSelection& before, const SoftClothSelection& now)
+{
+    return now.softClothActive && now.object == before.object && now.mesh == before.mesh &&
+           now.material == before.material;
+}
+
 } // namespace
 
 CSoftClothPresetSection::CSoftClothPresetSection(CPhysicsSoftClothPlugin* plugin)
@@ -159,7 +166,7 @@ BF::Result CSoftClothPresetSection::UpdateUi(bool sameObject)
     SetChecked(m_ui.activePhysicsCheckBox, Selection().softClothActive);
     SetChecked(m_ui.softClothRadioButton, true);
 
-    const SoftClothSelection& shown = Selection();
+    const SoftClothSelection shown = Selection();
     bool active = false;
     if (shown.softClothActive && shown.mesh != 0 && shown.material != 0) {
         BF::Result known = EnableRadioButtons();
@@ -174,13 +181,10 @@ BF::Result CSoftClothPresetSection::UpdateUi(bool sameObject)
         EnableUi(false);
         return BF::Results::NothingDone;
     }
-    bool gravity = false;
-    const BF::Result gravityKnown =
-        Scene().GetUseGlobalGravity(shown.object, shown.mesh, shown.material, gravity, shown.affectAllMaterials);
-    if (gravityKnown.IsFailure()) {
-        return gravityKnown;
+    const BF::Result gravity = ShowGravity(shown);
+    if (!gravity.IsSuccess()) {
+        return gravity.IsFailure() ? gravity : BF::Results::Success;
     }
-    SetChecked(m_ui.useWorldGravityCheckBox, gravity);
     ShowAffectAllMaterials();
     if (!sameObject && m_ui.presetTabWidget) {
         const CSignalBlocker silentTabs{m_ui.presetTabWidget};
@@ -204,6 +208,20 @@ BF::Result CSoftClothPresetSection::EnableRadioButtons()
     EnableWidget(m_ui.rigidBodyRadioButton, enable);
     EnableWidget(m_ui.softClothRadioButton, enable);
     return BF::Results::Success;
+}
+
+/// \return 0; the host's failure; or 1 when the refresh is out of date by now: the box writes to the host when it
+///         changes, and in that write the host can show something else
+BF::Result CSoftClothPresetSection::ShowGravity(const SoftClothSelection& shown)
+{
+    bool gravity = false;
+    const BF::Result known =
+        Scene().GetUseGlobalGravity(shown.object, shown.mesh, shown.material, gravity, shown.affectAllMaterials);
+    if (known.IsFailure()) {
+        return known;
+    }
+    SetChecked(m_ui.useWorldGravityCheckBox, gravity);
+    return IsStillShown(shown, Selection()) ? BF::Results::Success : BF::Results::NothingDone;
 }
 
 void CSoftClothPresetSection::ShowAffectAllMaterials()
@@ -234,13 +252,17 @@ int CSoftClothPresetSection::MaterialCount() const
 
 void CSoftClothPresetSection::OnClickActivePhysicsCheckBox()
 {
+    const QPointer<CSoftClothPresetSection> self(this);
     const bool activate = IsChecked(m_ui.activePhysicsCheckBox);
     Selection().softClothActive = activate;
-    if (activate && !MayBecomeSoftCloth()) {
+    if ((activate && !MayBecomeSoftCloth()) || !self) {
         return;
     }
     // The write can send events that refresh the whole panel: from here on the selection says what holds.
     Edit().SetPhysicsActive(Selection().object, softClothPhysics, Selection().softClothActive, true, true);
+    if (!self) {
+        return;
+    }
     m_plugin->EnableAll(Selection().softClothActive);
     if (Selection().softClothActive) {
         RefreshAfterSwitchOn();
@@ -296,6 +318,9 @@ void CSoftClothPresetSection::RefreshAfterSwitchOn()
 
 BF::Result CSoftClothPresetSection::ConfirmMultipleMaterials()
 {
+    if (!m_host) {
+        return BF::Results::InvalidArgument;
+    }
     Selection().softClothActive = false;
     {
         const CSignalBlocker silent{m_ui.activePhysicsCheckBox};
@@ -348,8 +373,10 @@ void CSoftClothPresetSection::ConvertToRigidBody()
     constexpr int physicsPage = 4;
     constexpr int physicsOrder = 6;
     constexpr int physicsFlags = 64;
+    // Asked for first: the conversion can end this section.
+    CUiService& ui = Ui();
     Edit().ConvertToRigidBody(Scene().GetSelectedObject(0));
-    Ui().ShowPanelPage(physicsPage, physicsOrder, physicsFlags);
+    ui.ShowPanelPage(physicsPage, physicsOrder, physicsFlags);
 }
 
 void CSoftClothPresetSection::OnClickUseWorldGravityCheckBox()

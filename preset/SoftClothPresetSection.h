@@ -52,7 +52,7 @@ public:
 
     /// Tells the user that the object has several materials, with soft cloth switched off, and lets the user choose
     /// one and give it a weight map.
-    /// \return 0; or 2 when the user refused
+    /// \return 0; 2 when the user refused; or 0x80000003 before Init()
     BF::Result ConfirmMultipleMaterials();
 
     /// Applies the profile at \p path: the groups that it has, in a fixed order.
@@ -95,6 +95,7 @@ private:
     void ConvertToRigidBody();
     bool IsWeightMapMode() const;
     BF::Result EnableRadioButtons();
+    BF::Result ShowGravity(const SoftClothSelection& shown);
     void ShowAffectAllMaterials();
     BF::Result WriteGravity(bool useGlobalGravity);
 

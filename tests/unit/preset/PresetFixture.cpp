@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QBuffer>
+#include <QGroupBox>
 #include <QImage>
 #include <QMessageBox>
 #include <QTabWidget>
@@ -146,6 +147,31 @@ void PresetFixture::During(const char* operation, std::function<void()> action)
     *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, &host, check);
 }
 
+bool IsBodyEnabled(const QWidget* section)
+{
+    return Child<QGroupBox>(section, "qtSectionGroupBox")->isEnabled();
+}
+
+QStringList OperationsOf(const QStringList& calls)
+{
+    QStringList names;
+    for (const QString& call : calls) {
+        names.append(call.section(QLatin1Char('('), 0, 0));
+    }
+    return names;
+}
+
+QStringList TranslatedTexts(const NotingTranslator& translator)
+{
+    QStringList texts;
+    const auto requests = translator.TextsIn("MV::CSoftClothPresetSection");
+    for (const auto& [text, note] : requests) {
+        texts.append(QStringLiteral("%1 <%2>").arg(QString::fromUtf8(text), QString::fromUtf8(note)));
+    }
+    texts.sort();
+    return texts;
+}
+
 QByteArray ImageBytes(const QSize& size, const char* format)
 {
     QImage image(size, QImage::Format_RGB32);
@@ -173,6 +199,17 @@ QString Box(const QString& text, int buttons, int defaultButton, int answer)
 }
 
 } // namespace
+
+QString GetDialogMode(int mode)
+{
+    return QStringLiteral("GetDialogMode() -> %1").arg(mode);
+}
+
+QString SetPhysicsActive(const char* object, bool active)
+{
+    return QStringLiteral("SetPhysicsActive(\"%1\", 3, %2, true, true) -> 0")
+        .arg(QLatin1String(object), active ? QLatin1String("true") : QLatin1String("false"));
+}
 
 QString Message(const QString& text)
 {

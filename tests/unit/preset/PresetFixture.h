@@ -5,6 +5,7 @@
 #include "preset/SoftClothPresetSection.h"
 #include "tests/support/Children.h"
 #include "tests/support/Files.h"
+#include "tests/support/NotingTranslator.h"
 #include "tests/support/SampleModels.h"
 
 #include <QListWidget>
@@ -75,12 +76,25 @@ private:
     QStringList Take(const std::function<bool(const Host::JournalEntry&)>& isWanted);
 };
 
+/// Whether the body of any of the panel's sections is enabled.
+bool IsBodyEnabled(const QWidget* section);
+
+/// The names of the operations of \p calls, which are texts of the journal.
+QStringList OperationsOf(const QStringList& calls);
+
+/// What the section had translated, each text with the note to its translator: "text <note>". Sorted.
+QStringList TranslatedTexts(const NotingTranslator& translator);
+
 /// An image of \p size, encoded.
 QByteArray ImageBytes(const QSize& size, const char* format = "PNG");
 
-/// The texts of the section's message boxes, as the journal has them.
+/// Texts that many tests share, as the journal has them.
 namespace Journal {
 
+QString GetDialogMode(int mode);
+QString SetPhysicsActive(const char* object, bool active);
+
+/// A message box of the section with Ok only.
 QString Message(const QString& text);
 /// The question about several materials, with the answer that it got.
 QString Question(int answer);

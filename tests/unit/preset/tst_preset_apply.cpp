@@ -1,5 +1,6 @@
 #include "tests/support/TestCase.h"
 #include "tests/unit/preset/PresetFixture.h"
+#include "tests/unit/sections/SectionFixture.h"
 
 #include <QTabWidget>
 
@@ -15,6 +16,7 @@ private Q_SLOTS:
     void itemUnderTheMouseDoesNotCount();
     void itemWithoutProfileIsAnInvalidPath();
     void missingCurrentItemIsAnInvalidPath();
+    void everyListUnderTheTabsCounts();
     void slotAppliesTheGivenList();
     void presetsAddedLaterDoNotAppear();
 };
@@ -110,6 +112,30 @@ void TestPresetApply::missingCurrentItemIsAnInvalidPath()
     DoubleClick(list, list.item(0));
     QCOMPARE(list.currentItem(), nullptr);
     QCOMPARE(fixture.Take(), QStringList{Journal::Message(invalidPath)});
+}
+
+void TestPresetApply::everyListUnderTheTabsCounts()
+{
+    SectionFixture fixture;
+    fixture.host.Answers().unattended = true;
+    MV::CSoftClothPresetSection section(&fixture.plugin);
+    QListWidget* own = nullptr;
+    // Somebody has put a list of their own deep into a page by the time that the gallery is filled.
+    connect(&fixture.host.Journal(), &Host::CallJournal::EntryAdded, &section, [&](int index) {
+        if (fixture.host.Journal().Entries().at(index).operation == QLatin1String("GetDataFolderPath")) {
+            auto* page = new QWidget(Child<QWidget>(&section, "qtHairTab"));
+            own = new QListWidget(new QWidget(page));
+        }
+    });
+    QCOMPARE(section.Init({}, {}, &fixture.host), BF::Results::Success);
+    QVERIFY(own);
+    own->addItem(QStringLiteral("mine"));
+    own->setCurrentRow(0);
+    fixture.TakeCalls();
+    Q_EMIT own->itemDoubleClicked(own->item(0));
+    const QStringList calls = fixture.TakeCalls();
+    QCOMPARE(calls.size(), 1);
+    QVERIFY2(calls.first().contains(invalidPath), qPrintable(calls.first()));
 }
 
 void TestPresetApply::slotAppliesTheGivenList()

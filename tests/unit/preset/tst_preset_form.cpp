@@ -1,3 +1,4 @@
+#include "tests/support/ForwardingServices.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/preset/PresetFixture.h"
 #include "tests/unit/sections/FormChecks.h"
@@ -27,6 +28,8 @@ private Q_SLOTS:
     void initWithoutHostDoesNothing();
     void initPassesTheFormsFailureUp();
     void startRegistersHotKeysAndAsksForThePresets();
+    void hotKeysAreTranslatedWithTheirNotes();
+    void presetFolderFollowsTheDataFolderDirectly();
     void failingDataFolderLeavesTheGalleryEmpty();
     void rigidBodyButtonActsInFamilyAOnly_data();
     void rigidBodyButtonActsInFamilyAOnly();
@@ -45,6 +48,38 @@ constexpr const char* componentNames =
     "qtPresetTabWidget SoftClothPreset qtClothTab qtHairTab qtWindTab";
 
 constexpr const char* radioButtons[] = {"qtRigidBodyRadioButton", "qtSoftClothRadioButton"};
+
+/// A host that tells of its data folder without a separator at the end.
+class BareFolderHost : public Host::HostApplication
+{
+public:
+    explicit BareFolderHost(const QString& folder)
+        : m_scene(*HostApplication::GetSceneService(), folder)
+    {
+    }
+    MV::CSceneService* GetSceneService() override { return &m_scene; }
+
+private:
+    class Scene : public Forwarding::SceneService
+    {
+    public:
+        Scene(CSceneService& inner, const QString& folder)
+            : SceneService(inner)
+            , m_folder(folder)
+        {
+        }
+        BF::Result GetDataFolderPath(std::wstring& path, int /*kind*/) override
+        {
+            path = m_folder.toStdWString();
+            return BF::Results::Success;
+        }
+
+    private:
+        QString m_folder;
+    };
+
+    Scene m_scene;
+};
 
 } // namespace
 
@@ -185,6 +220,7 @@ void TestPresetForm::startsHiddenAndNotInitialised()
     QVERIFY(section.children().isEmpty());
     QCOMPARE(section.UpdateUi(true), BF::Results::InvalidArgument);
     QCOMPARE(section.LoadProfileFile(QStringLiteral("/")), BF::Results::InvalidArgument);
+    QCOMPARE(section.ConfirmMultipleMaterials(), BF::Results::InvalidArgument);
     QCOMPARE(fixture.TakeCalls(), QStringList());
 }
 
@@ -218,6 +254,31 @@ void TestPresetForm::startRegistersHotKeysAndAsksForThePresets()
                                          "\"MVSoftClothPresetSection\") -> 1"),
                           QStringLiteral("Scene.GetDataFolderPath(\"%1\", 3) -> 0")
                               .arg(QDir::toNativeSeparators(folder.path() + u'/'))}));
+}
+
+void TestPresetForm::hotKeysAreTranslatedWithTheirNotes()
+{
+    SectionFixture fixture;
+    MV::CSoftClothPresetSection section(&fixture.plugin);
+    const NotingTranslator translator;
+    QCOMPARE(section.Init({}, {}, &fixture.host), BF::Results::Success);
+    QCOMPARE(TranslatedTexts(translator),
+             (QStringList{QStringLiteral("[Hot Key] Modify <Modify Panel hot key>"),
+                          QStringLiteral("[Hot Key] Physics <LensFlare section hot key>")}));
+}
+
+void TestPresetForm::presetFolderFollowsTheDataFolderDirectly()
+{
+    SectionFixture fixture;
+    const QTemporaryDir folder;
+    Files::Write(folder.filePath(QStringLiteral("MyPhysicsSoftPreset/0/1_Mine.png")), ImageBytes({8, 8}));
+    Files::Write(folder.filePath(QStringLiteral("My/PhysicsSoftPreset/0/2_Other.png")), ImageBytes({8, 8}));
+    BareFolderHost host(folder.filePath(QStringLiteral("My")));
+    MV::CSoftClothPresetSection section(&fixture.plugin);
+    QCOMPARE(section.Init({}, {}, &host), BF::Results::Success);
+    const auto* list = Child<QListWidget>(&section, "qtPresetClothListWidget");
+    QVERIFY(!list->item(0)->icon().isNull());
+    QVERIFY(list->item(1)->icon().isNull());
 }
 
 void TestPresetForm::failingDataFolderLeavesTheGalleryEmpty()

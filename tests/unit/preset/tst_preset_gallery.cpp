@@ -37,6 +37,7 @@ private Q_SLOTS:
     void noPagesAreFine();
     void iconsAreDecodedAtDisplaySize_data();
     void iconsAreDecodedAtDisplaySize();
+    void listWithoutIconSizeGetsTheWholeImage();
     void profileOfNothingIsEmpty();
 
 protected:
@@ -338,6 +339,14 @@ void TestPresetGallery::iconsAreDecodedAtDisplaySize()
     QCOMPARE(Fill(), BF::Results::Success);
     const QList<QSize> sizes = List(0).item(0)->icon().availableSizes();
     QCOMPARE(sizes, QList<QSize>{qFuzzyCompare(qApp->devicePixelRatio(), 2) ? shownAtTwo : shown});
+}
+
+void TestPresetGallery::listWithoutIconSizeGetsTheWholeImage()
+{
+    List(0).setIconSize({});
+    Put(QStringLiteral("0/1_x.png"), {300, 200});
+    QCOMPARE(Fill(), BF::Results::Success);
+    QCOMPARE(List(0).item(0)->icon().availableSizes(), QList<QSize>{QSize(300, 200)});
 }
 
 void TestPresetGallery::profileOfNothingIsEmpty()

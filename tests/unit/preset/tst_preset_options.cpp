@@ -19,6 +19,7 @@ private Q_SLOTS:
     void gravityOfAllMaterialsIsOneUndoStep();
     void failedGravityWriteIsNotTold();
     void affectAllMaterialsIsOnlyRemembered();
+    void affectAllMaterialsIsRememberedWhenSetByCode();
     void affectAllMaterialsGoesWithTheNextGravityWrite();
     void paintButtonTogglesTheWeightMaps();
     void paintButtonReplacesAnotherMode();
@@ -115,6 +116,17 @@ void TestPresetOptions::affectAllMaterialsIsOnlyRemembered()
     QVERIFY(fixture.Selection().affectAllMaterials);
     fixture.Click("qtAffectAllMaterialsCheckBox");
     QVERIFY(!fixture.Selection().affectAllMaterials);
+    QCOMPARE(fixture.Take(), QStringList());
+}
+
+void TestPresetOptions::affectAllMaterialsIsRememberedWhenSetByCode()
+{
+    PresetFixture fixture;
+    fixture.AddCloth();
+    for (const bool all : {true, false}) {
+        fixture.Find<QCheckBox>("qtAffectAllMaterialsCheckBox")->setChecked(all);
+        QCOMPARE(fixture.Selection().affectAllMaterials, all);
+    }
     QCOMPARE(fixture.Take(), QStringList());
 }
 

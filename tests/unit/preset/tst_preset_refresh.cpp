@@ -27,7 +27,6 @@ private Q_SLOTS:
     void kindIsNotAskedOutsideFamilyA();
     void refreshNeverEnables();
     void changedGravityIsWrittenOnce();
-    void selectionIsReadAgainAfterTheGravityWrite();
     void gravityIsAskedForWithAffectAllMaterials();
     void affectAllMaterialsNeedsTwoMaterials_data();
     void affectAllMaterialsNeedsTwoMaterials();
@@ -244,20 +243,6 @@ void TestPresetRefresh::changedGravityIsWrittenOnce()
     QCOMPARE(refresh(),
              QStringList{fixture.Call("SetUseGlobalGravity", {QStringLiteral("false"), QStringLiteral("false")})});
     QCOMPARE(refresh(), QStringList());
-}
-
-void TestPresetRefresh::selectionIsReadAgainAfterTheGravityWrite()
-{
-    PresetFixture fixture;
-    const Host::Object& flag = fixture.AddCloth(SampleModels::Flag());
-    const Host::Object& hero = fixture.AddCloth();
-    QVERIFY(fixture.IsEnabled("qtAffectAllMaterialsCheckBox"));
-    fixture.Cloth(hero).useGlobalGravity = false;
-    // Inside the write that the changed box sets off, the host selects an object with a single material.
-    fixture.During("SetUseGlobalGravity", [&] { fixture.host.Select({flag.handle}); });
-    fixture.section->UpdateUi(true);
-    QCOMPARE(fixture.Selection().object, flag.handle);
-    QVERIFY(!fixture.IsEnabled("qtAffectAllMaterialsCheckBox"));
 }
 
 void TestPresetRefresh::gravityIsAskedForWithAffectAllMaterials()

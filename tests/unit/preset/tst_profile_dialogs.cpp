@@ -8,6 +8,7 @@
 #include "tests/support/UserDialogs.h"
 #include "tests/unit/preset/PresetFixture.h"
 
+#include <QAbstractButton>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -21,6 +22,8 @@ class TestProfileDialogs : public TestCase
 private Q_SLOTS:
     void dialogsAskForTheRightThing_data();
     void dialogsAskForTheRightThing();
+    void textsAreTranslatedWithTheirNotes_data();
+    void textsAreTranslatedWithTheirNotes();
     void failingFolderStillAsks();
     void cancellingDoesNothing_data();
     void cancellingDoesNothing();
@@ -29,6 +32,7 @@ private Q_SLOTS:
     void profileIsSaved();
     void savedNameGetsASuffix();
     void savingOverAProfileReplacesItsKeys();
+    void groupsAreSavedInOrder();
     void missingSectionsAreNotSaved();
     void unwritableTargetIsTold_data();
     void unwritableTargetIsTold();
@@ -70,7 +74,32 @@ const QString defaultFolder = QStringLiteral("GetDefaultFolder");
 constexpr const char* openButton = "qtOpenFilePushButton";
 constexpr const char* saveButton = "qtSaveFilePushButton";
 
+/// Something that the user does.
+using Deed = void (*)(DialogFixture& fixture);
+
+void Cancel(DialogFixture& fixture, const char* slot)
+{
+    UserDialogs::OpensDialog([&] { fixture.Invoke(slot); });
+}
+
+void LoadUnreadable(DialogFixture& fixture)
+{
+    Files::OpenToAll(fixture.folder.path());
+    const QString path = Files::Write(fixture.Path(QStringLiteral("secret.ini")), "[Property]\nMass=4\n");
+    const FileRefusal refusal(path, FileRefusal::Of::ReadingAndWriting);
+    fixture.section->LoadProfileFile(path);
+}
+
+void SaveUnwritable(DialogFixture& fixture)
+{
+    // A folder takes the place of the file that was chosen.
+    const QString path = fixture.Path(QStringLiteral("new.ini"));
+    fixture.Choose(saveButton, path, [&] { QVERIFY(QDir().mkdir(path)); });
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(Deed)
 
 void TestProfileDialogs::dialogsAskForTheRightThing_data()
 {
@@ -105,6 +134,41 @@ void TestProfileDialogs::dialogsAskForTheRightThing()
             dialog.reject();
         });
     QCOMPARE(fixture.Take().constFirst(), QStringLiteral("GetDefaultFolder(\"%1\", 72) -> 0").arg(folder));
+}
+
+void TestProfileDialogs::textsAreTranslatedWithTheirNotes_data()
+{
+    QTest::addColumn<Deed>("deed");
+    QTest::addColumn<QStringList>("texts");
+    const QString filter = QStringLiteral("INI Files (*.ini) <>");
+    const QString title = QStringLiteral("[Physics Soft Cloth Section] Movira 6 <Message Title>");
+    const auto row = [](const char* name, Deed deed, const QStringList& texts) {
+        QTest::newRow(name) << deed << texts;
+    };
+    row("open", [](DialogFixture& fixture) { Cancel(fixture, "OnClickOpenFilePushButton"); },
+        {filter, QStringLiteral("Load Soft Cloth Custom Profile <Open File title>")});
+    row("save", [](DialogFixture& fixture) { Cancel(fixture, "OnClickSaveFilePushButton"); },
+        {filter, QStringLiteral("Save Soft Cloth Custom Profile <Open File title>")});
+    row("host's file", [](DialogFixture& fixture) { Cancel(fixture, "OnClickLoadIniPushButton"); },
+        {filter, QStringLiteral("Load Soft Ini Profile <Open File title>")});
+    row("invalid path", [](DialogFixture& fixture) { fixture.section->LoadProfileFile({}); },
+        {QStringLiteral("InValid File Path. <>"), title});
+    row("unreadable", LoadUnreadable, {QStringLiteral("File is Unreadable. <>"), title});
+    row("unwritable", SaveUnwritable,
+        {QStringLiteral("File is Unwritable. <>"), filter,
+         QStringLiteral("Save Soft Cloth Custom Profile <Open File title>"), title});
+}
+
+void TestProfileDialogs::textsAreTranslatedWithTheirNotes()
+{
+    QFETCH(const Deed, deed);
+    QFETCH(const QStringList, texts);
+    DialogFixture fixture;
+    const NotingTranslator translator;
+    deed(fixture);
+    QStringList expected = texts;
+    expected.sort();
+    QCOMPARE(TranslatedTexts(translator), expected);
 }
 
 void TestProfileDialogs::failingFolderStillAsks()
@@ -184,6 +248,22 @@ void TestProfileDialogs::savingOverAProfileReplacesItsKeys()
     QCOMPARE(saved.value(QStringLiteral("Property/Own")), QVariant(QStringLiteral("1")));
     QCOMPARE(saved.value(QStringLiteral("Ignored_Material_Name_List/Body")).toStringList(),
              (QStringList{QStringLiteral("Skin"), QStringLiteral("Hair")}));
+}
+
+void TestProfileDialogs::groupsAreSavedInOrder()
+{
+    DialogFixture fixture;
+    // The question that the Property group asks of the host tells what came before it and what comes after it.
+    fixture.During("GetSoftClothProperty", [&] {
+        fixture.Find<QAbstractButton>("qtUseWorldGravityCheckBox")->setChecked(false);
+        delete fixture.plugin->CollisionSection();
+        delete fixture.plugin->WindSection();
+    });
+    const QString path = fixture.Path(QStringLiteral("new.ini"));
+    fixture.Choose(saveButton, path);
+    QSettings saved(path, QSettings::IniFormat);
+    QCOMPARE(saved.value(QStringLiteral("Preset/Use_Global_Gravity")), QVariant(QStringLiteral("true")));
+    QCOMPARE(saved.childGroups(), (QStringList{QStringLiteral("Preset"), QStringLiteral("Property")}));
 }
 
 void TestProfileDialogs::missingSectionsAreNotSaved()

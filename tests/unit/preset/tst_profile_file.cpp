@@ -1,8 +1,10 @@
 #include "tests/support/FileRefusal.h"
 #include "tests/support/Files.h"
 #include "tests/support/TestCase.h"
+#include "tests/unit/preset/MissingTemporaryFolder.h"
 #include "tests/unit/preset/NotedGroups.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -35,6 +37,10 @@ private Q_SLOTS:
 #endif
     void unreadableFileIsTold();
     void changedFileIsReadAnew();
+    void changeOfEqualSizeAndTimeIsSeen();
+#ifdef Q_OS_UNIX
+    void missingTemporaryFolderIsNoObstacle();
+#endif
     void largeFileIsRead();
     void loadingWritesNothing();
 
@@ -193,6 +199,38 @@ void TestProfileFile::changedFileIsReadAnew()
     Load(path);
     QCOMPARE(m_groups.Take(), (QStringList{QStringLiteral("Property"), QStringLiteral("Collision")}));
 }
+
+void TestProfileFile::changeOfEqualSizeAndTimeIsSeen()
+{
+    const QString path = Path("a.ini");
+    const QDateTime time = QDateTime::currentDateTime().addDays(-1);
+    QStringList values;
+    const std::vector<MV::ProfileGroup> groups{{QStringLiteral("Property"),
+                                                [&values](QSettings& profile) {
+                                                    values.append(profile.value(QStringLiteral("a")).toString());
+                                                    return BF::Result(BF::Results::Success);
+                                                },
+                                                {}}};
+    for (const char* content : {"[Property]\na=1\n", "[Property]\na=2\n"}) {
+        QFile file(Files::Write(path, content));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+        file.close();
+        MV::LoadProfile(path, groups, m_result);
+    }
+    QCOMPARE(values, (QStringList{QStringLiteral("1"), QStringLiteral("2")}));
+}
+
+#ifdef Q_OS_UNIX // Elsewhere the test cannot take the folder away.
+void TestProfileFile::missingTemporaryFolderIsNoObstacle()
+{
+    const QString path = Files::Write(Path("a.ini"), "[Property]\na=1\n");
+    Files::OpenToAll(m_folder->path());
+    const MissingTemporaryFolder missing;
+    QCOMPARE(Load(path), EProfileProblem::None);
+    QCOMPARE(m_groups.Take(), QStringList{QStringLiteral("Property")});
+}
+#endif
 
 void TestProfileFile::largeFileIsRead()
 {

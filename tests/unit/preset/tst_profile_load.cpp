@@ -46,15 +46,6 @@ constexpr const char* wholeProfile = "[Wind_Setting]\nWind_Frequency=2\n"
                                      "[Property]\nMass=3\n"
                                      "[Preset]\nUse_Global_Gravity=true\n";
 
-QStringList OperationsOf(const QStringList& calls)
-{
-    QStringList names;
-    for (const QString& call : calls) {
-        names.append(call.section(QLatin1Char('('), 0, 0));
-    }
-    return names;
-}
-
 struct LoadFixture : PresetFixture
 {
     LoadFixture() { hero = &AddCloth(); }

@@ -3,6 +3,7 @@
 #include "tests/support/FullDisk.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/TestCase.h"
+#include "tests/unit/preset/MissingTemporaryFolder.h"
 #include "tests/unit/preset/NotedGroups.h"
 
 #include <QDir>
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void failedWriteLeavesTheOldFile();
     void fullDiskIsNoticed_data();
     void fullDiskIsNoticed();
+    void missingTemporaryFolderIsNoObstacle();
 #endif
     void refusedSaveLeavesNoTrace();
     void savingLeavesNoOtherFiles();
@@ -190,7 +192,7 @@ void TestProfileSave::unwritableTargetIsTold()
              QStringList{QStringLiteral("old.ini")});
 }
 
-#ifdef Q_OS_UNIX // Elsewhere no limit makes a disk look full.
+#ifdef Q_OS_UNIX // Elsewhere no limit makes a disk look full, and the test cannot take a folder away.
 void TestProfileSave::failedWriteLeavesTheOldFile()
 {
     // Large enough for the new content not to fit, malformed so that the store has something else to complain of.
@@ -232,6 +234,17 @@ void TestProfileSave::fullDiskIsNoticed()
     QCOMPARE(Files::Read(Path("new.ini")), QByteArray(savedText));
 }
 
+void TestProfileSave::missingTemporaryFolderIsNoObstacle()
+{
+    Files::OpenToAll(m_folder->path());
+    {
+        const MissingTemporaryFolder missing;
+        QCOMPARE(Save(Path("new.ini")), EProfileProblem::None);
+    }
+    QCOMPARE(Files::Read(Path("new.ini")), QByteArray(savedText));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{QStringLiteral("new.ini")});
+}
 #endif
 
 void TestProfileSave::refusedSaveLeavesNoTrace()
