@@ -14,6 +14,8 @@
 #include <QTabWidget>
 #include <QTableWidget>
 
+#include <vector>
+
 namespace MV::Internal {
 
 namespace {
@@ -26,11 +28,11 @@ QString NameOf(const QDomElement& element)
     return element.attribute(nameAttribute);
 }
 
-QVector<QDomElement> Children(const QDomElement& parent, const QString& tag)
+std::vector<QDomElement> Children(const QDomElement& parent, const QString& tag)
 {
-    QVector<QDomElement> children;
+    std::vector<QDomElement> children;
     for (QDomElement child = parent.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag)) {
-        children.append(child);
+        children.push_back(child);
     }
     return children;
 }
@@ -234,7 +236,7 @@ void CFormBuild::ApplyHeaderAttributes(QTableWidget* table, const QDomElement& e
         for (const auto& [prefix, header] : headers) {
             if (NameOf(attribute).startsWith(prefix)) {
                 QString property = NameOf(attribute).mid(prefix.size());
-                property.replace(0, 1, property.left(1).toLower());
+                property.replace(0, 1, property.mid(0, 1).toLower());
                 SetProperty(header, property, m_values.Of(attribute));
             }
         }

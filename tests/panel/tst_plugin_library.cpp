@@ -168,7 +168,8 @@ void TestPluginLibrary::sectionValues()
     QFETCH(const int, order);
     PanelFixture fixture;
     const QWidget* section = fixture.Section(qPrintable(form))->parentWidget();
-    for (MV::CSectionInterface* candidate : fixture.Plugin().Sections()) {
+    const auto candidates = fixture.Plugin().Sections();
+    for (MV::CSectionInterface* candidate : candidates) {
         if (candidate->GetSectionWidget() == section) {
             QCOMPARE(candidate->GetSectionPage(), 4);
             QCOMPARE(candidate->GetSectionOrder(), order);

@@ -7,6 +7,8 @@
 #include <QTranslator>
 #include <QVector>
 
+#include <vector>
+
 /// Writes down every text that is to be translated while it lives, and knows none of them.
 class NotingTranslator : public QTranslator
 {
@@ -15,7 +17,7 @@ public:
 
     QString translate(const char* context, const char* source, const char* note, int /*n*/) const override
     {
-        m_requests.append({QByteArray(context), QByteArray(source), QByteArray(note)});
+        m_requests.push_back({QByteArray(context), QByteArray(source), QByteArray(note)});
         return {};
     }
     bool isEmpty() const override { return false; }
@@ -51,5 +53,5 @@ private:
         QByteArray source;
         QByteArray note;
     };
-    mutable QVector<Request> m_requests;
+    mutable std::vector<Request> m_requests;
 };

@@ -2,8 +2,6 @@
 
 #include <QPushButton>
 
-#include <memory>
-
 DialogFixture::DialogFixture(MV::ECompatibleApp app)
 {
     host.SetMainWindow(&window);
@@ -14,9 +12,7 @@ DialogFixture::DialogFixture(MV::ECompatibleApp app)
         qFatal("the plug-in object does not start");
     }
     plugin.SetCurrentApp(app);
-    auto* newTable = new MV::CSoftClothMaterialTable(&window, &plugin);
-    table = QSharedPointer<MV::CSoftClothMaterialTable>(
-        newTable, [guard = QPointer<MV::CSoftClothMaterialTable>(newTable)](auto*) { delete guard.data(); });
+    table.reset(new MV::CSoftClothMaterialTable(&window, &plugin));
     dialog = new MV::CSoftClothMaterialDlg(&window, &plugin);
     dialog->SetMaterialTable(table);
     if (table->Init({}, {}, &host).IsFailure() || dialog->Init({}, {}, &host).IsFailure()) {

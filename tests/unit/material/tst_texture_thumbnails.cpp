@@ -246,7 +246,7 @@ void TestTextureThumbnails::widthIsToldBeforeTheHeight()
     fixture.dialog->UpdateUi();
     const QSize pixels = label->size() * label->devicePixelRatio();
     QCOMPARE(
-        CallsOfChannel(fixture.Take(), 0).last(),
+        CallsOfChannel(fixture.Take(), 0).constLast(),
         QStringLiteral("RenderThumbnail(%1, %2, unknown 0xd0, null) -> 0").arg(pixels.width()).arg(pixels.height()));
     QCOMPARE(label->pixmap(Qt::ReturnByValue).size(), pixels);
 }
@@ -323,8 +323,11 @@ void TestTextureThumbnails::otherSendersMakeNoLabelCurrent()
     QItemLabel label;
     QPushButton button;
     const QMetaMethod slot = MethodOf(*fixture.dialog, "OnItemSelectedChanged()");
-    QObject::connect(&label, MethodOf(label, "SelectedChanged()"), fixture.dialog, slot);
-    QObject::connect(&button, MethodOf(button, "clicked()"), fixture.dialog, slot);
+    const auto connectTo = [&](const QObject& other, const char* signal) {
+        QMetaObject::connect(&other, MethodOf(other, signal).methodIndex(), fixture.dialog, slot.methodIndex());
+    };
+    connectTo(label, "SelectedChanged()");
+    connectTo(button, "clicked()");
     if (sender == "another label") {
         QTest::mouseClick(&label, Qt::LeftButton);
     } else if (sender == "another widget") {

@@ -218,7 +218,8 @@ void TestStartup::partsKnowTheirParentAndThePlugin()
         QCOMPARE(part->parentWidget(), &fixture.mainWindow);
         QCOMPARE(part->plugin, fixture.plugin.get());
     }
-    for (MV::CSectionInterface* section : fixture.Sections()) {
+    const auto sections = fixture.Sections();
+    for (MV::CSectionInterface* section : sections) {
         const auto* part = dynamic_cast<MV::FakePart*>(section);
         QVERIFY(part);
         QCOMPARE(part->parentWidget(), fixture.plugin.get());

@@ -108,7 +108,8 @@ QStringList ExtraLines(const QObject& object)
         }
     }
     if (const auto* widget = qobject_cast<const QWidget*>(&object)) {
-        for (const QAction* action : widget->actions()) {
+        const auto actions = widget->actions();
+        for (const QAction* action : actions) {
             lines.append(QStringLiteral("offers ") + action->objectName());
         }
     }

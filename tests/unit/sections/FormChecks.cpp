@@ -1,7 +1,6 @@
 #include "tests/unit/sections/FormChecks.h"
 
 #include "sections/MultiLevelSlider.h"
-#include "tests/support/Children.h"
 #include "ui/QtUiLoader.h"
 #include "ui/UiComponent.h"
 
@@ -10,11 +9,8 @@
 
 #include <QAbstractSpinBox>
 #include <QApplication>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
-#include <QPushButton>
-#include <QtTest>
 
 #include <algorithm>
 

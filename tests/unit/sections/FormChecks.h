@@ -1,11 +1,15 @@
 #pragma once
 
+#include "tests/support/Children.h"
 #include "tests/unit/sections/SectionFixture.h"
 
 #include <MVPluginQt/Result.h>
 
+#include <QGroupBox>
+#include <QPushButton>
 #include <QString>
 #include <QWidget>
+#include <QtTest>
 
 #include <functional>
 
@@ -51,5 +55,48 @@ void NothingShown(SectionFixture& fixture, const QWidget& section, const std::fu
 /// \p refresh returns the failure and changes nothing. The change must be one that every box would show.
 void FailedRead(SectionFixture& fixture, const QWidget& section, const std::function<BF::Result()>& refresh,
                 const std::function<void()>& change);
+
+/// A section that is ready stands on the panel's page at \p order, hidden and unfolded; its button folds it.
+template <class Section>
+void Place(int order)
+{
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    QCOMPARE(fixture.initialised, BF::Results::Success);
+    QCOMPARE(section.GetSectionPage(), 4);
+    QCOMPARE(section.GetSectionOrder(), order);
+    QCOMPARE(section.GetSectionApplications(), 7);
+    QCOMPARE(section.GetSectionWidget(), &section);
+    QVERIFY(section.AbleToShowSection());
+    QVERIFY(section.isHidden());
+    QVERIFY(section.GetSectionExpandState());
+    QTest::mouseClick(Child<QPushButton>(&section, "qtExpandPushButton"), Qt::LeftButton);
+    QVERIFY(!section.GetSectionExpandState());
+    QVERIFY(Child<QGroupBox>(&section, "qtSectionGroupBox")->isHidden());
+}
+
+/// Without a host a section refuses to start, and to refresh, and makes no widgets.
+template <class Section>
+void WithoutHost()
+{
+    SectionFixture fixture;
+    Section section(&fixture.plugin);
+    QCOMPARE(section.Init(QString(), QString(), nullptr), BF::Results::InvalidArgument);
+    QVERIFY(section.children().isEmpty());
+    QCOMPARE(section.UpdateUi(), BF::Results::InvalidArgument);
+    QCOMPARE(fixture.TakeCalls(), QStringList());
+}
+
+/// Without its form, of which a warning tells, a section does not start and is not to be shown.
+template <class Section>
+void MissingForm()
+{
+    Host::HostApplication host;
+    MV::CPhysicsSoftClothPlugin plugin;
+    Section section(&plugin);
+    QCOMPARE(section.Init(QString(), QString(), &host), BF::Results::ResourceFailure);
+    QVERIFY(!section.AbleToShowSection());
+    QVERIFY(section.children().isEmpty());
+}
 
 } // namespace FormChecks

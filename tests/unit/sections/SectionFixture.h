@@ -3,12 +3,12 @@
 #include "host/services/HostApplication.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 
+#include <QByteArray>
 #include <QSettings>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QVariant>
 
-#include <cstring>
 #include <memory>
 
 /// A plug-in object without parts in a stand-in host with an object of three soft cloth materials: "Skin" and "Hair"
@@ -113,7 +113,10 @@ private:
 template <class Record>
 bool SameBits(const Record& a, const Record& b)
 {
-    return std::memcmp(&a, &b, sizeof(Record)) == 0;
+    const auto bits = [](const Record& record) {
+        return QByteArray::fromRawData(reinterpret_cast<const char*>(&record), sizeof(Record));
+    };
+    return bits(a) == bits(b);
 }
 
 /// Compares a section's host record with the expected one; shows both where they differ.

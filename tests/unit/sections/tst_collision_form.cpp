@@ -106,40 +106,18 @@ void TestCollisionForm::tabGoesFromTopToBottom()
 
 void TestCollisionForm::sectionStandsAtItsPlace()
 {
-    SectionFixture fixture;
-    Section& section = fixture.Make<Section>();
-    QCOMPARE(fixture.initialised, BF::Results::Success);
-    QCOMPARE(section.GetSectionPage(), 4);
-    QCOMPARE(section.GetSectionOrder(), 32);
-    QCOMPARE(section.GetSectionApplications(), 7);
-    QCOMPARE(section.GetSectionWidget(), &section);
-    QVERIFY(section.AbleToShowSection());
-    QVERIFY(section.isHidden());
-    QVERIFY(section.GetSectionExpandState());
-    QTest::mouseClick(Child<QPushButton>(&section, "qtExpandPushButton"), Qt::LeftButton);
-    QVERIFY(!section.GetSectionExpandState());
-    QVERIFY(Child<QGroupBox>(&section, "qtSectionGroupBox")->isHidden());
+    FormChecks::Place<Section>(32);
 }
 
 void TestCollisionForm::nothingHappensWithoutAHost()
 {
-    SectionFixture fixture;
-    Section section(&fixture.plugin);
-    QCOMPARE(section.Init(QString(), QString(), nullptr), BF::Results::InvalidArgument);
-    QVERIFY(section.children().isEmpty());
-    QCOMPARE(section.UpdateUi(), BF::Results::InvalidArgument);
-    QCOMPARE(fixture.TakeCalls(), QStringList());
+    FormChecks::WithoutHost<Section>();
 }
 
 void TestCollisionForm::missingFormIsReturned()
 {
-    Host::HostApplication host;
-    MV::CPhysicsSoftClothPlugin plugin;
-    Section section(&plugin);
     ExpectWarning(QStringLiteral("SoftClothCollision.ui"));
-    QCOMPARE(section.Init(QString(), QString(), &host), BF::Results::ResourceFailure);
-    QVERIFY(!section.AbleToShowSection());
-    QVERIFY(section.children().isEmpty());
+    FormChecks::MissingForm<Section>();
 }
 
 QTEST_MAIN(TestCollisionForm)

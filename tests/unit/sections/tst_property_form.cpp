@@ -75,18 +75,16 @@ void TestPropertyForm::boxesHaveSensibleRanges_data()
     QTest::newRow("mass") << QByteArray("qtMassEXSpinBox") << 0.0 << 10000.0 << 1.0 << QStringLiteral(" kg");
     QTest::newRow("solver frequency") << QByteArray("qtSolverFrequencyEXSpinBox") << 1.0 << 1000.0 << 10.0
                                       << QStringLiteral(" Hz");
-    QTest::newRow("friction") << QByteArray("qtFricionDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
-    QTest::newRow("damping") << QByteArray("qtDampingDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
-    QTest::newRow("drag") << QByteArray("qtDragDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QStringLiteral("");
-    QTest::newRow("tether limit") << QByteArray("qtTetherLimitDoubleEXSpinBox") << 0.0 << 10.0 << 0.05
-                                  << QStringLiteral("");
+    QTest::newRow("friction") << QByteArray("qtFricionDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QString();
+    QTest::newRow("damping") << QByteArray("qtDampingDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QString();
+    QTest::newRow("drag") << QByteArray("qtDragDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QString();
+    QTest::newRow("tether limit") << QByteArray("qtTetherLimitDoubleEXSpinBox") << 0.0 << 10.0 << 0.05 << QString();
     QTest::newRow("stiffness") << QByteArray("qtStiffnessCombospinbox") << -100.0 << 100.0 << 1.0
                                << QStringLiteral(" %");
     QTest::newRow("bending") << QByteArray("qtBendingCombospinbox") << -100.0 << 100.0 << 1.0 << QStringLiteral(" %");
     QTest::newRow("tether stiffness") << QByteArray("qtTetherStiffnessCombospinbox") << 1.0 << 101.0 << 1.0
-                                      << QStringLiteral("");
-    QTest::newRow("inertia, in tenths") << QByteArray("qtInertiaScaleCombospinbox") << 0.0 << 20.0 << 1.0
-                                        << QStringLiteral("");
+                                      << QString();
+    QTest::newRow("inertia, in tenths") << QByteArray("qtInertiaScaleCombospinbox") << 0.0 << 20.0 << 1.0 << QString();
 }
 
 void TestPropertyForm::boxesHaveSensibleRanges()
@@ -150,38 +148,18 @@ void TestPropertyForm::tabGoesThroughTheBoxesFromTopToBottom()
 
 void TestPropertyForm::sectionStandsAtItsPlace()
 {
-    SectionFixture fixture;
-    Section& section = fixture.Make<Section>();
-    QCOMPARE(fixture.initialised, BF::Results::Success);
-    QCOMPARE(section.GetSectionPage(), 4);
-    QCOMPARE(section.GetSectionOrder(), 16);
-    QCOMPARE(section.GetSectionApplications(), 7);
-    QCOMPARE(section.GetSectionWidget(), &section);
-    QVERIFY(section.AbleToShowSection());
-    QVERIFY(section.isHidden());
-    section.SetSectionExpandState(false);
-    QVERIFY(Child<QGroupBox>(&section, "qtSectionGroupBox")->isHidden());
-    QVERIFY(!Child<QPushButton>(&section, "qtExpandPushButton")->isChecked());
+    FormChecks::Place<Section>(16);
 }
 
 void TestPropertyForm::nothingHappensWithoutAHost()
 {
-    SectionFixture fixture;
-    Section section(&fixture.plugin);
-    QCOMPARE(section.Init(QString(), QString(), nullptr), BF::Results::InvalidArgument);
-    QVERIFY(section.children().isEmpty());
-    QCOMPARE(section.UpdateUi(), BF::Results::InvalidArgument);
-    QCOMPARE(fixture.TakeCalls(), QStringList());
+    FormChecks::WithoutHost<Section>();
 }
 
 void TestPropertyForm::missingFormIsReturned()
 {
-    Host::HostApplication host;
-    MV::CPhysicsSoftClothPlugin plugin;
-    Section section(&plugin);
     ExpectWarning(QStringLiteral("SoftClothProperty.ui"));
-    QCOMPARE(section.Init(QString(), QString(), &host), BF::Results::ResourceFailure);
-    QVERIFY(!section.AbleToShowSection());
+    FormChecks::MissingForm<Section>();
 }
 
 QTEST_MAIN(TestPropertyForm)

@@ -156,18 +156,7 @@ void TestWindForm::tabGoesThroughTheBoxesFromTopToBottom()
 
 void TestWindForm::sectionStandsAtItsPlace()
 {
-    SectionFixture fixture;
-    Section& section = fixture.Make<Section>();
-    QCOMPARE(fixture.initialised, BF::Results::Success);
-    QCOMPARE(section.GetSectionPage(), 4);
-    QCOMPARE(section.GetSectionOrder(), 48);
-    QCOMPARE(section.GetSectionApplications(), 7);
-    QCOMPARE(section.GetSectionWidget(), &section);
-    QVERIFY(section.AbleToShowSection());
-    QVERIFY(section.isHidden());
-    section.SetSectionExpandState(false);
-    QVERIFY(Child<QGroupBox>(&section, "qtSectionGroupBox")->isHidden());
-    QVERIFY(!Child<QPushButton>(&section, "qtExpandPushButton")->isChecked());
+    FormChecks::Place<Section>(48);
 }
 
 void TestWindForm::plugInCreatesTheSectionsInTheirPlaces()
@@ -190,22 +179,13 @@ void TestWindForm::plugInCreatesTheSectionsInTheirPlaces()
 
 void TestWindForm::nothingHappensWithoutAHost()
 {
-    SectionFixture fixture;
-    Section section(&fixture.plugin);
-    QCOMPARE(section.Init(QString(), QString(), nullptr), BF::Results::InvalidArgument);
-    QVERIFY(section.children().isEmpty());
-    QCOMPARE(section.UpdateUi(), BF::Results::InvalidArgument);
-    QCOMPARE(fixture.TakeCalls(), QStringList());
+    FormChecks::WithoutHost<Section>();
 }
 
 void TestWindForm::missingFormIsReturned()
 {
-    Host::HostApplication host;
-    MV::CPhysicsSoftClothPlugin plugin;
-    Section section(&plugin);
     ExpectWarning(QStringLiteral("SoftClothWindSetting.ui"));
-    QCOMPARE(section.Init(QString(), QString(), &host), BF::Results::ResourceFailure);
-    QVERIFY(!section.AbleToShowSection());
+    FormChecks::MissingForm<Section>();
 }
 
 void TestWindForm::sliderIsSetUpInItsContainer()

@@ -69,7 +69,8 @@ void TestDesignerPlugin::initTestCase()
 
 QDesignerCustomWidgetInterface* TestDesignerPlugin::Interface(const QString& name) const
 {
-    for (QDesignerCustomWidgetInterface* widget : m_collection->customWidgets()) {
+    const auto widgets = m_collection->customWidgets();
+    for (QDesignerCustomWidgetInterface* widget : widgets) {
         if (widget->name() == name) {
             return widget;
         }
@@ -86,7 +87,8 @@ void TestDesignerPlugin::metaDataNamesTheDesignersInterface()
 void TestDesignerPlugin::collectionHasAllWidgets()
 {
     QStringList names;
-    for (const QDesignerCustomWidgetInterface* widget : m_collection->customWidgets()) {
+    const auto widgets = m_collection->customWidgets();
+    for (const QDesignerCustomWidgetInterface* widget : widgets) {
         names.append(widget->name());
     }
     QCOMPARE(names, QStringList({QStringLiteral("QSpinBoxEx"), QStringLiteral("QDoubleSpinBoxEx"),
