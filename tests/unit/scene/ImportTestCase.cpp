@@ -1,6 +1,6 @@
 #include "tests/unit/scene/ImportTestCase.h"
 
-#include "tests/unit/scene/Files.h"
+#include "tests/support/Files.h"
 
 #include <QFileInfo>
 
@@ -17,10 +17,8 @@ void ImportTestCase::SetUp()
 
 ImportResult ImportTestCase::ImportText(const QByteArray& obj, const QByteArray& mtl) const
 {
-    if (!Files::Write(PathOf(QStringLiteral("m.obj")), obj) || !Files::Write(PathOf(QStringLiteral("m.mtl")), mtl)) {
-        qFatal("cannot write the model");
-    }
-    return Host::ImportModel(PathOf(QStringLiteral("m.obj")));
+    Files::Write(PathOf(QStringLiteral("m.mtl")), mtl);
+    return Host::ImportModel(Files::Write(PathOf(QStringLiteral("m.obj")), obj));
 }
 
 QString ImportTestCase::SampleModel(const QString& name)

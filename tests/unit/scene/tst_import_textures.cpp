@@ -1,7 +1,7 @@
 #include "host/import/ModelImport.h"
 #include "host/import/TextureImport.h"
 
-#include "tests/unit/scene/Files.h"
+#include "tests/support/Files.h"
 #include "tests/unit/scene/ImportTestCase.h"
 
 #include <QDir>
@@ -124,7 +124,7 @@ void TestImportTextures::linkedTextureIsFound()
     QFETCH(QByteArray, asked);
     QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("maps")));
     const QString path = PathOf(QStringLiteral("maps/Silk Ü.png"));
-    QVERIFY(Files::Write(path, "image"));
+    Files::Write(path, "image");
     const ImportResult result = ImportText(SquareObj(), "newmtl Cloth\nKd 1 1 1\nmap_Kd " + asked + "\n");
     QVERIFY2(result.object, qPrintable(result.error));
     const auto& texture = result.object->materials[0].textures.at(ETextureChannel::Diffuse);
@@ -137,7 +137,7 @@ void TestImportTextures::linkedTextureBesideTheModelIsTheLastResort()
 {
     // The file names a folder of its author.
     QVERIFY(QFile::copy(SampleModel(QStringLiteral("FBX/spider.fbx")), PathOf(QStringLiteral("spider.fbx"))));
-    QVERIFY(Files::Write(PathOf(QStringLiteral("DRKWOOD2.JPG")), "image"));
+    Files::Write(PathOf(QStringLiteral("DRKWOOD2.JPG")), "image");
     const ImportResult result = ImportModel(PathOf(QStringLiteral("spider.fbx")));
     QVERIFY2(result.object, qPrintable(result.error));
     QHash<QString, QString> paths;
@@ -172,7 +172,7 @@ void TestImportTextures::missingTextureKeepsItsPath()
 
 void TestImportTextures::opacityTextureComesAlong()
 {
-    QVERIFY(Files::Write(PathOf(QStringLiteral("a.png")), "image"));
+    Files::Write(PathOf(QStringLiteral("a.png")), "image");
     const ImportResult result =
         ImportText(SquareObj(), "newmtl Cloth\nKd 1 1 1\nmap_Kd a.png\nmap_d missing.png\nmap_bump a.png\n");
     QVERIFY2(result.object, qPrintable(result.error));

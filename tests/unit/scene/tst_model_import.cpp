@@ -1,6 +1,6 @@
 #include "host/import/ModelImport.h"
 
-#include "tests/unit/scene/Files.h"
+#include "tests/support/Files.h"
 #include "tests/unit/scene/GeometryChecks.h"
 #include "tests/unit/scene/ImportTestCase.h"
 
@@ -301,11 +301,11 @@ void TestModelImport::namesAreUnicode()
     const QString folder = QStringLiteral("Größe 東京");
     QVERIFY(QDir(m_folder->path()).mkpath(folder));
     const QString path = PathOf(folder + QStringLiteral("/Kleid Ω.v2.obj"));
-    QVERIFY(Files::Write(
-        path, QByteArray(SquareObj()).replace("Cloth", "Sei\xc3\xa9 \xe7\xb5\xb9").prepend("o Rock\xe8\xa1\xa3\n")));
-    QVERIFY(Files::Write(PathOf(folder + QStringLiteral("/m.mtl")),
-                         "newmtl Sei\xc3\xa9 \xe7\xb5\xb9\nKd 1 1 1\nmap_Kd \xe7\xb5\xb9.png\n"));
-    QVERIFY(Files::Write(PathOf(folder + QStringLiteral("/絹.png")), "image"));
+    Files::Write(path,
+                 QByteArray(SquareObj()).replace("Cloth", "Sei\xc3\xa9 \xe7\xb5\xb9").prepend("o Rock\xe8\xa1\xa3\n"));
+    Files::Write(PathOf(folder + QStringLiteral("/m.mtl")),
+                 "newmtl Sei\xc3\xa9 \xe7\xb5\xb9\nKd 1 1 1\nmap_Kd \xe7\xb5\xb9.png\n");
+    Files::Write(PathOf(folder + QStringLiteral("/絹.png")), "image");
     const ImportResult result = ImportModel(path);
     QVERIFY2(result.object, qPrintable(result.error));
     QCOMPARE(result.object->name, QStringLiteral("Kleid Ω.v2"));

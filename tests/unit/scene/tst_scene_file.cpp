@@ -1,8 +1,8 @@
 #include "host/scene/Scene.h"
 #include "host/scene/SceneFile.h"
 
+#include "tests/support/Files.h"
 #include "tests/support/TestCase.h"
-#include "tests/unit/scene/Files.h"
 #include "tests/unit/scene/JsonEdit.h"
 #include "tests/unit/scene/SampleScene.h"
 
@@ -279,7 +279,7 @@ void TestSceneFile::texturesMoveAlongWithTheScene()
 {
     QDir folder(m_folder->path());
     QVERIFY(folder.mkpath(QStringLiteral("old/maps")));
-    QVERIFY(Files::Write(PathOf("old/maps/silk.png"), "silk"));
+    Files::Write(PathOf("old/maps/silk.png"), "silk");
     Scene scene;
     Object robe = Sample::Robe(QStringLiteral("Robe"));
     robe.materials[0].textures[MV::ETextureChannel::Diffuse].filePath = PathOf("old/maps/silk.png");
@@ -297,7 +297,7 @@ void TestSceneFile::textureThatStayedIsFoundByItsAbsolutePath()
 {
     QDir folder(m_folder->path());
     QVERIFY(folder.mkpath(QStringLiteral("old")) && folder.mkpath(QStringLiteral("far/away")));
-    QVERIFY(Files::Write(PathOf("old/silk.png"), "silk"));
+    Files::Write(PathOf("old/silk.png"), "silk");
     Scene scene;
     Object robe = Sample::Robe(QStringLiteral("Robe"));
     robe.materials[0].textures[MV::ETextureChannel::Diffuse].filePath = PathOf("old/silk.png");
@@ -328,7 +328,7 @@ void TestSceneFile::handWrittenNumbersAreTaken()
     root = JsonEdit::With(root, property + QStringLiteral("drag"), 0.1);
     root = JsonEdit::With(root, property + QStringLiteral("friction"), QStringLiteral("0x7f800000"));
     root = JsonEdit::With(root, property + QStringLiteral("mass"), QStringLiteral("-9223372036854775808"));
-    QVERIFY(Files::Write(PathOf("robe.scene"), QJsonDocument(root.toObject()).toJson()));
+    Files::Write(PathOf("robe.scene"), QJsonDocument(root.toObject()).toJson());
     std::unique_ptr<Scene> loaded;
     const SceneFileResult result = Host::LoadScene(PathOf("robe.scene"), loaded);
     QVERIFY2(result.ok, qPrintable(result.error));
@@ -340,7 +340,7 @@ void TestSceneFile::handWrittenNumbersAreTaken()
 
 void TestSceneFile::saveReplacesTheFile()
 {
-    QVERIFY(Files::Write(PathOf("robe.scene"), QByteArray(100000, 'x')));
+    Files::Write(PathOf("robe.scene"), QByteArray(100000, 'x'));
     QVERIFY(Host::SaveScene(Scene(), PathOf("robe.scene")).ok);
     std::unique_ptr<Scene> scene;
     QVERIFY(Host::LoadScene(PathOf("robe.scene"), scene).ok);

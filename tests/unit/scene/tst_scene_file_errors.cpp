@@ -1,13 +1,13 @@
 #include "host/scene/Scene.h"
 #include "host/scene/SceneFile.h"
 
+#include "tests/support/Files.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TestCase.h"
-#include "tests/unit/scene/Files.h"
 #include "tests/unit/scene/JsonEdit.h"
 #include "tests/unit/scene/SampleScene.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -73,7 +73,7 @@ void TestSceneFileErrors::damagedFileIsRefused()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, complaint);
-    QVERIFY(Files::Write(PathOf("robe.scene"), content));
+    Files::Write(PathOf("robe.scene"), content);
     auto scene = std::make_unique<Scene>();
     const SceneFileResult result = Host::LoadScene(PathOf("robe.scene"), scene);
     QVERIFY(!result.ok);
@@ -209,7 +209,7 @@ void TestSceneFileErrors::damagedDocumentIsRefused()
     const QJsonValue root(QJsonDocument::fromJson(Files::Read(PathOf("robe.scene"))).object());
     const QJsonObject damaged = JsonEdit::With(root, path, value).toObject();
     QVERIFY(damaged != root.toObject());
-    QVERIFY(Files::Write(PathOf("robe.scene"), QJsonDocument(damaged).toJson()));
+    Files::Write(PathOf("robe.scene"), QJsonDocument(damaged).toJson());
 
     std::unique_ptr<Scene> scene;
     const SceneFileResult result = Host::LoadScene(PathOf("robe.scene"), scene);
@@ -225,7 +225,7 @@ void TestSceneFileErrors::truncatedFileIsRefusedWhereverItEnds()
     QVERIFY(Host::SaveScene(sound, PathOf("robe.scene")).ok);
     const QByteArray whole = Files::Read(PathOf("robe.scene"));
     for (int size = whole.size() - 1; size >= 0; size -= 1 + size / 50) {
-        QVERIFY(Files::Write(PathOf("robe.scene"), whole.left(size)));
+        Files::Write(PathOf("robe.scene"), whole.left(size));
         std::unique_ptr<Scene> scene;
         QVERIFY(!Host::LoadScene(PathOf("robe.scene"), scene).ok);
         QVERIFY(!scene);
@@ -259,17 +259,15 @@ void TestSceneFileErrors::impossibleTargetIsRefused_data()
 
 void TestSceneFileErrors::impossibleTargetIsRefused()
 {
-    QFETCH(QString, target);
+    QFETCH(const QString, target);
     QFETCH(bool, isThere);
     const QDir folder(m_folder->path());
     QVERIFY(folder.mkpath(QStringLiteral("folder")) && folder.mkpath(QStringLiteral("locked")));
-    QVERIFY(Files::Write(PathOf("file"), "old"));
-    QVERIFY(QFile::setPermissions(PathOf("locked"), QFile::ReadOwner | QFile::ExeOwner));
-    if (QFileInfo(PathOf("locked")).isWritable() && target.startsWith(QStringLiteral("locked"))) {
-        // Nothing is locked for the superuser but what the system itself keeps.
-        target = QStringLiteral("/sys/robe.scene");
-    }
+    Files::Write(PathOf("file"), "old");
+    Files::OpenToAll(m_folder->path());
+    QVERIFY(QFile::setPermissions(PathOf("locked"), QFileDevice::Permissions(0x5555)));
     const QString path = target.isEmpty() ? target : folder.absoluteFilePath(target);
+    const OrdinaryUser user;
     const SceneFileResult saved = Host::SaveScene(Scene(), path);
     QVERIFY(!saved.ok);
     QVERIFY2(saved.error.startsWith(QStringLiteral("The scene could not be saved as")), qPrintable(saved.error));
@@ -282,7 +280,6 @@ void TestSceneFileErrors::impossibleTargetIsRefused()
     QVERIFY2(
         loaded.error.contains(isThere ? QStringLiteral("is not a file") : QStringLiteral("There is no scene file")),
         qPrintable(loaded.error));
-    QVERIFY(QFile::setPermissions(PathOf("locked"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QCOMPARE(Files::Read(PathOf("file")), QByteArray("old"));
     const QStringList left = folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     QCOMPARE(left, (QStringList{QStringLiteral("file"), QStringLiteral("folder"), QStringLiteral("locked")}));
@@ -295,7 +292,7 @@ void TestSceneFileErrors::refusedSaveLeavesTheOldFile()
     QByteArray& image = robe.materials[0].textures[MV::ETextureChannel::Diffuse].embedded;
     image.resize((1 << 30) + 1); // more than a scene file may have
     scene.AddObject(std::move(robe));
-    QVERIFY(Files::Write(PathOf("robe.scene"), "old"));
+    Files::Write(PathOf("robe.scene"), "old");
     const SceneFileResult saved = Host::SaveScene(scene, PathOf("robe.scene"));
     QVERIFY2(!saved.ok && saved.error.contains(QStringLiteral("too large")), qPrintable(saved.error));
     QCOMPARE(Files::Read(PathOf("robe.scene")), QByteArray("old"));
