@@ -20,9 +20,11 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "$<1:${CMAKE_BINARY_DIR}/bin>")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "$<1:${SOFTCLOTH_LIBRARY_FOLDER}>")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "$<1:${SOFTCLOTH_LIBRARY_FOLDER}>")
 
+# The compiler cache takes names of our files as relative ones, so that every copy of the tree on a machine shares it.
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" CCACHE_NOHASHDIR=true
+        "${CCACHE_PROGRAM}")
 endif()
 
 # The plug-in's metadata carries a debug flag that follows QT_NO_DEBUG; the host loads release plug-ins only.
