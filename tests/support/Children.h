@@ -2,7 +2,7 @@
 
 #include <QObject>
 #include <QStringList>
-#include <QtTest>
+#include <QTest>
 
 /// The child of \p parent called \p name; fails the test and lists what there is when it is missing or of another
 /// type.

@@ -1,6 +1,7 @@
 #include "tests/support/LibraryFile.h"
 
 #include <QFile>
+#include <QVector>
 
 #include <cstring>
 

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
+#include <QVector>
 #include <QtEndian>
 
 #include <algorithm>

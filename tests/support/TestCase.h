@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QSet>
 #include <QString>
-#include <QtTest>
+#include <QTest>
 
 class QWidget;
 

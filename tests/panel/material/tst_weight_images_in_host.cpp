@@ -22,6 +22,7 @@
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QUrl>
 
 using MV::ECompatibleApp;
 

@@ -4,10 +4,13 @@
 #include "tests/support/TestCase.h"
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QDirIterator>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTabWidget>
 

@@ -7,8 +7,10 @@
 #include <QHideEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPair>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSignalSpy>
 #include <QTimer>
 
 using MV::EDialogMode;

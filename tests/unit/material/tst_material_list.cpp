@@ -4,6 +4,8 @@
 #include "plugin/HostIds.h"
 
 #include <QListWidget>
+#include <QSignalBlocker>
+#include <QSignalSpy>
 #include <QTableWidget>
 
 using Host::Id;

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTextCodec>

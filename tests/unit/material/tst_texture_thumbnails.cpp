@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMetaMethod>
+#include <QPair>
 #include <QPushButton>
 
 using MV::ETextureChannel;

@@ -9,8 +9,8 @@
 #include <QImage>
 #include <QMessageBox>
 #include <QTabWidget>
+#include <QTest>
 #include <QVBoxLayout>
-#include <QtTest>
 
 PresetFixture::PresetFixture(MV::ECompatibleApp app)
     : PresetFixture(app, [](const QString&) {})

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QGroupBox>
+#include <QMetaMethod>
 #include <QRadioButton>
 #include <QTabWidget>
 

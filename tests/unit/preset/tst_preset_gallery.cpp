@@ -4,6 +4,7 @@
 #include "tests/unit/preset/PresetFixture.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QListWidget>
 #include <QSignalSpy>
 #include <QTabWidget>

@@ -6,6 +6,7 @@
 #include "tests/unit/preset/PresetFixture.h"
 
 #include <QMessageBox>
+#include <QRegularExpression>
 
 /// The question what to do about an object with several materials.
 class TestPresetPrompt : public TestCase

@@ -11,6 +11,7 @@
 #include <QAbstractButton>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <optional>
 

@@ -5,7 +5,9 @@
 #include "tests/unit/scene/ImportTestCase.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QImage>
 
 #include <assimp/material.h>

@@ -8,6 +8,7 @@
 #include "tests/unit/scene/SampleScene.h"
 
 #include <QDir>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -8,8 +8,8 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QString>
+#include <QTest>
 #include <QWidget>
-#include <QtTest>
 
 #include <functional>
 

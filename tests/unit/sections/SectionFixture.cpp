@@ -9,9 +9,9 @@
 #include <BFQtCustomWidgetPluginU/QSpinBoxEx.h>
 
 #include <QFile>
+#include <QTest>
 #include <QTextStream>
 #include <QVBoxLayout>
-#include <QtTest>
 
 namespace {
 

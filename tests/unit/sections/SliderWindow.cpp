@@ -2,8 +2,8 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTest>
 #include <QWindow>
-#include <QtTest>
 
 #include <utility>
 

@@ -2,6 +2,8 @@
 #include "tests/support/SampleModels.h"
 #include "tests/support/TestCase.h"
 
+#include <QSignalSpy>
+
 #include <functional>
 
 using Action = std::function<void(Host::HostApplication&, BF::CHandle*)>;

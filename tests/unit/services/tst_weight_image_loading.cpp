@@ -9,6 +9,7 @@
 #include "tests/unit/services/ImageTestCase.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 /// LoadWeightImage: what it accepts, what it refuses, and what is left to take back.
 class TestWeightImageLoading : public ImageTestCase

@@ -7,9 +7,9 @@
 #include <QSlider>
 #include <QStyleOptionSlider>
 #include <QStyleOptionSpinBox>
+#include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
-#include <QtTest>
 
 namespace UserInput {
 

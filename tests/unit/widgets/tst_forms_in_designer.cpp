@@ -13,6 +13,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QLayout>
+#include <QMap>
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QVBoxLayout>

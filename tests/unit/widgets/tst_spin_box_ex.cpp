@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
+#include <QSignalBlocker>
 
 /// Typed edits and values set by the program.
 class TestSpinBoxEx : public SpinBoxTest
