@@ -1,3 +1,4 @@
+#include "tests/support/Files.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/plugin/PluginFixture.h"
 #include "tests/unit/plugin/fakes/FakeParts.h"
@@ -5,6 +6,7 @@
 #include <MVPluginQt/EventSender.h>
 
 #include <QMetaMethod>
+#include <QRegularExpression>
 
 #include <array>
 
@@ -17,6 +19,7 @@ class TestEventConnections : public TestCase
 
 private Q_SLOTS:
     void everyEventIsInTheTable();
+    void everyEventIsDocumented();
     void eventIsFollowedAsTheTableSays_data();
     void eventIsFollowedAsTheTableSays();
     void nothingIsFollowedAfterAFailedPart_data();
@@ -84,6 +87,24 @@ void TestEventConnections::everyEventIsInTheTable()
         listed.append(Signature(row));
     }
     QCOMPARE(listed, sent);
+}
+
+void TestEventConnections::everyEventIsDocumented()
+{
+    const QString document = QString::fromUtf8(Files::ReadText(QStringLiteral(SOFTCLOTH_HOST_DOCUMENT)));
+    const QString table = document.section(QLatin1String("\n## Events\n"), 1).section(QLatin1String("\n## "), 0, 0);
+    QStringList documented;
+    auto rows = QRegularExpression(QStringLiteral("^\\| `(\\w+)` \\| \\S"), QRegularExpression::MultilineOption)
+                    .globalMatch(table);
+    while (rows.hasNext()) {
+        documented.append(rows.next().captured(1));
+    }
+    documented.sort();
+    QStringList sent;
+    for (const EventRow& row : events) {
+        sent.append(QString::fromLatin1(EventName(row)));
+    }
+    QCOMPARE(documented, sent);
 }
 
 void TestEventConnections::eventIsFollowedAsTheTableSays_data()
