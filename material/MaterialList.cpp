@@ -1,17 +1,18 @@
 // The list of materials: its rows, the current one, and what narrows it.
 #include "material/SoftClothMaterialDlg.h"
 
-#include "plugin/HostIds.h"
+#include "material/SoftClothMaterialTable.h"
+#include "panel/HostCodes.h"
+#include "panel/HostIds.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "plugin/services/EditService.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
 #include "plugin/services/UiService.h"
-#include "preset/SoftClothMaterialTable.h"
+#include "ui/IniFile.h"
 #include "ui/SignalBlocker.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QListWidget>
@@ -29,10 +30,9 @@ namespace {
 constexpr int materialRole = Qt::UserRole;
 constexpr int meshRole = Qt::UserRole + 1;
 constexpr int noRow = -1;
-constexpr quint32 filteredObjectType = 2;
 
 /// Lets the user choose a profile file; empty when none was chosen.
-/// The dialog is no local variable, as QFileDialog's own functions have it: it dies with \p parent.
+/// The dialog is no local variable, as in QFileDialog's own functions: it is destroyed with \p parent.
 QString AskForProfile(QWidget* parent)
 {
     const QPointer<QFileDialog> dialog(
@@ -47,11 +47,10 @@ QString AskForProfile(QWidget* parent)
 
 using IgnoredNames = std::map<std::wstring, BF::CArrayList<std::wstring>>;
 
-/// The ignored material names of a profile file; empty when it has none.
-IgnoredNames ReadIgnoredNames(const QString& profilePath)
+/// The ignored material names of a profile; empty when it has none.
+IgnoredNames ReadIgnoredNames(CIniReader& reader)
 {
-    QSettings profile(profilePath, QSettings::IniFormat);
-    profile.setIniCodec("UTF-8");
+    QSettings& profile = reader.Settings();
     profile.beginGroup(QStringLiteral("Ignored_Material_Name_List"));
     IgnoredNames names;
     const QStringList keys = profile.allKeys();
@@ -82,18 +81,24 @@ BF::Result CSoftClothMaterialDlg::ReloadMaterials(BF::CHandle* object, bool rese
     const int rememberedRow = reset ? noRow : list->currentRow();
     const CSignalBlocker silent{list};
     list->clear();
+    // Any host call can bring an event that lists materials again; that list is the newer one and stays.
+    const int rebuild = ++m_rebuild;
+    const auto isOutOfDate = [this, rebuild] { return rebuild != m_rebuild; };
 
     std::vector<Material> materials;
     const BF::Result read = ReadMaterials(object, materials);
-    if (read.IsFailure()) {
+    if (read.IsFailure() || isOutOfDate()) {
         return read;
     }
     const BF::Result tableFilled = FillMaterialTable(materials);
-    if (tableFilled.IsFailure()) {
+    if (tableFilled.IsFailure() || isOutOfDate()) {
         return tableFilled;
     }
     const auto isNotOffered = [this](const Material& m) { return !Scene().IsMaterialSoftClothEnabled(m.material); };
     materials.erase(std::remove_if(materials.begin(), materials.end(), isNotOffered), materials.end());
+    if (isOutOfDate()) {
+        return BF::Results::Success;
+    }
     EnableEditWidgets(!materials.empty());
     if (materials.empty()) {
         return BF::Results::NothingDone;
@@ -102,13 +107,13 @@ BF::Result CSoftClothMaterialDlg::ReloadMaterials(BF::CHandle* object, bool rese
     int activeRow = noRow;
     for (const Material& material : materials) {
         const BF::Result added = AddMaterialRow(material);
-        if (added.IsFailure()) {
+        if (added.IsFailure() || isOutOfDate()) {
             return added;
         }
         bool active = false;
         if (reset && activeRow == noRow) {
             const BF::Result known = Scene().IsSoftClothActive(object, material.mesh, material.material, active);
-            if (known.IsFailure()) {
+            if (known.IsFailure() || isOutOfDate()) {
                 return known;
             }
         }
@@ -157,8 +162,10 @@ BF::Result CSoftClothMaterialDlg::FillMaterialTable(const std::vector<Material>&
     return table->FillTable();
 }
 
+/// Appends a row, unless the list was filled by somebody else during the host calls.
 BF::Result CSoftClothMaterialDlg::AddMaterialRow(const Material& material)
 {
+    const int rebuild = m_rebuild;
     std::wstring materialName;
     const BF::Result materialKnown = Scene().GetObjectName(materialName, IdAsHandle(material.material));
     if (materialKnown.IsFailure()) {
@@ -166,7 +173,7 @@ BF::Result CSoftClothMaterialDlg::AddMaterialRow(const Material& material)
     }
     std::wstring meshName;
     const BF::Result meshKnown = Scene().GetObjectName(meshName, IdAsHandle(material.mesh));
-    if (meshKnown.IsFailure()) {
+    if (meshKnown.IsFailure() || rebuild != m_rebuild) {
         return meshKnown;
     }
     auto* item = new (std::nothrow) QListWidgetItem(QString::fromStdWString(materialName + L"( " + meshName + L" )"));
@@ -211,11 +218,16 @@ BF::Result CSoftClothMaterialDlg::RefreshMaterialStates()
         return BF::Results::NothingDone;
     }
     const CSignalBlocker silent{list};
+    const int rebuild = m_rebuild;
     for (int row = 0; row < list->count(); ++row) {
         std::wstring name;
         const BF::Result known = Scene().GetObjectName(name, IdAsHandle(RowDatum(row, materialRole)));
         if (known.IsFailure()) {
             return known;
+        }
+        if (rebuild != m_rebuild) {
+            // The call has brought an event that filled the list, with the names as they are now.
+            break;
         }
         list->item(row)->setText(QString::fromStdWString(name));
     }
@@ -243,7 +255,7 @@ bool CSoftClothMaterialDlg::PickMaterial(std::size_t index)
 
 void CSoftClothMaterialDlg::OnChangeCurrentItemOfMaterialList()
 {
-    const int row = m_ui.materialListWidget->currentRow();
+    const int row = m_ui.materialListWidget ? m_ui.materialListWidget->currentRow() : noRow;
     if (row == noRow) {
         return;
     }
@@ -286,12 +298,19 @@ void CSoftClothMaterialDlg::OnFilterMaterialList()
         ShowMessage(tr("InValid File Path."));
         return;
     }
-    // Permissions alone do not tell: another program may have the file to itself.
-    if (!QFile(path).open(QIODevice::ReadOnly)) {
+    CIniReader reader(path);
+    if (!reader.IsRead()) {
         ShowMessage(tr("File is Unreadable."));
         return;
     }
-    Edit().SetIgnoredMaterialNames(Selection().object, ReadIgnoredNames(path));
+    // The selection can have changed while the file dialog was open.
+    if (!Selection().object || Selection().objectType != filteredObjectType) {
+        return;
+    }
+    Edit().SetIgnoredMaterialNames(Selection().object, ReadIgnoredNames(reader));
+    if (!self) {
+        return;
+    }
     ReloadMaterials(Selection().object, true);
     m_plugin->UpdateAllUIs(true);
 }

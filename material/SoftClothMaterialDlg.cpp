@@ -1,14 +1,15 @@
 #include "material/SoftClothMaterialDlg.h"
 
-#include "plugin/MessageBox.h"
-#include "plugin/PanelForm.h"
+#include "panel/HostCodes.h"
+#include "panel/MessageBox.h"
+#include "panel/PanelForm.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "plugin/services/EditService.h"
 #include "plugin/services/HotKeyService.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
 #include "plugin/services/UiService.h"
-#include "sections/WidgetAccess.h"
+#include "ui/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QComboSpinBox.h>
 #include <BFQtCustomWidgetPluginU/QItemLabel.h>
@@ -19,6 +20,7 @@
 #include <QHideEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -54,7 +56,8 @@ BF::Result CSoftClothMaterialDlg::Init(const QString& /*pluginPath*/, const QStr
     if (m_ui.weightingItemLabel) {
         m_ui.weightingItemLabel->SetGetOpenFileNameFunctor([host] {
             QString path;
-            host->GetSceneService()->GetOpenImageFileName(path, 4, 71, 4);
+            host->GetSceneService()->GetOpenImageFileName(path, weightImageDialog[0], weightImageDialog[1],
+                                                          weightImageDialog[2]);
             return path;
         });
         m_ui.weightingItemLabel->SetFileFilter(QStringLiteral("jpg jpeg bmp gif png tga"));
@@ -106,6 +109,9 @@ void CSoftClothMaterialDlg::ConnectHostEvents()
 {
     using Dialog = CSoftClothMaterialDlg;
     CEventSender* sender = m_host->GetEventSender();
+    if (!sender) {
+        return;
+    }
     connect(sender, &CEventSender::DialogModeChanged, this, &Dialog::ShowDialog);
     connect(sender, &CEventSender::PickedMaterialTextureChanged, this, &Dialog::OnMaterialTextureChanged);
     m_imageLoadEvents = {
@@ -132,19 +138,19 @@ void CSoftClothMaterialDlg::ConnectHostEvents()
 
 BF::Result CSoftClothMaterialDlg::RegisterHotKeys()
 {
-    CHotKeyService& hotKeys = *m_host->GetHotKeyService();
-    const quint64 registration = hotKeys.RegisterSectionHotKeys(
+    const quint64 registration = m_host->GetHotKeyService()->RegisterSectionHotKeys(
         {QCoreApplication::translate("Modify Panel hot key", "[Hot Key] Modify").toStdWString(),
          QCoreApplication::translate("LensFlare section hot key", "[Hot Key] Physics").toStdWString()},
         L"MVPhysicsSoftCloth");
     if (m_ui.doEscapeAction) {
         connect(m_ui.doEscapeAction, &QAction::triggered, this, &CSoftClothMaterialDlg::DoHotkeyEscape);
     }
-    const BF::Result registered = hotKeys.RegisterEscapeAction(registration, m_ui.doEscapeAction, this);
+    const BF::Result registered =
+        m_host->GetHotKeyService()->RegisterEscapeAction(registration, m_ui.doEscapeAction, this);
     if (registered.IsFailure()) {
         return registered;
     }
-    const BF::Result disabled = hotKeys.DisableHotKeyAction(m_ui.doEscapeAction);
+    const BF::Result disabled = m_host->GetHotKeyService()->DisableHotKeyAction(m_ui.doEscapeAction);
     return disabled.IsFailure() ? disabled : BF::Results::Success;
 }
 
@@ -230,12 +236,23 @@ void CSoftClothMaterialDlg::SetImageLoading(bool loading)
 
 void CSoftClothMaterialDlg::ShowDialog(EDialogMode eMode)
 {
-    if (eMode == EDialogMode::WeightMap) {
+    m_isShownForMode = eMode == EDialogMode::WeightMap;
+    if (m_isShownForMode) {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
         show();
         UpdateUi();
     } else if (isVisible()) {
         hide();
     }
+}
+
+bool CSoftClothMaterialDlg::ShowAgainInOpenMode()
+{
+    const bool wasClosed = m_isShownForMode && !isVisible();
+    if (wasClosed) {
+        ShowDialog(EDialogMode::WeightMap);
+    }
+    return wasClosed;
 }
 
 void CSoftClothMaterialDlg::hideEvent(QHideEvent* event)
@@ -245,8 +262,8 @@ void CSoftClothMaterialDlg::hideEvent(QHideEvent* event)
         if (Scene().GetCurrentPickMode() == EPickMode::Material) {
             Ui().CancelPickMode();
         }
-        if (Scene().GetDialogMode() == EDialogMode::WeightMap) {
-            Ui().SetDialogMode(EDialogMode::None);
+        if (Scene().GetDialogMode() == EDialogMode::WeightMap && !Ui().SetDialogMode(EDialogMode::None).IsFailure()) {
+            m_isShownForMode = false;
         }
     }
     CPluginDialog::hideEvent(event);
@@ -254,11 +271,25 @@ void CSoftClothMaterialDlg::hideEvent(QHideEvent* event)
 
 void CSoftClothMaterialDlg::OnClickPickMaterialPushButton()
 {
+    const QPointer<CSoftClothMaterialDlg> self(this);
     Ui().ChangePickMode(EPickMode::Material);
+    // The click has switched the button over, whatever came of it.
+    if (self) {
+        ShowPicking();
+    }
+}
+
+void CSoftClothMaterialDlg::ShowPicking()
+{
+    if (m_ui.pickMaterialPushButton) {
+        m_ui.pickMaterialPushButton->setChecked(m_isPicking);
+    }
 }
 
 BF::Result CSoftClothMaterialDlg::OnPickModeChanged(EPickMode mode)
 {
+    m_isPicking = mode == EPickMode::Material;
+    ShowPicking();
     if (!m_host) {
         return BF::Results::InvalidArgument;
     }

@@ -67,6 +67,13 @@ public:
     /// \return true when another row was chosen, whose ids are in the selection then
     bool PickMaterial(std::size_t index);
 
+    /// Shows the dialog again when the user has closed it and the host did not end the weight-map mode.
+    /// \return whether that was so
+    bool ShowAgainInOpenMode();
+
+    /// The list, whose current row is the material that the panel edits; null without a form.
+    const QListWidget* MaterialListWidget() const { return m_ui.materialListWidget; }
+
     /// How many materials the list shows.
     int MaterialCount() const;
 
@@ -128,6 +135,7 @@ private:
     void SetImageLoading(bool loading);
     void EnableEditWidgets(bool enable);
     void EnableAdjustWidgets(bool enable);
+    void ShowPicking();
     void ShowPath(const QString& path);
     void ShowMessage(const QString& text);
 
@@ -166,9 +174,12 @@ private:
     CMoviraInterface* m_host = nullptr;
     CSoftClothMaterialDlgUiComponent m_ui;
     QWeakPointer<CSoftClothMaterialTable> m_materialTable;
+    int m_rebuild = 0;                    ///< Number of the latest rebuild of the list.
     int m_materialTableCode = 0;          ///< How the table was left the last time.
     QItemLabel* m_currentLabel = nullptr; ///< The texture that the buttons work on; null for none yet.
     bool m_imageLoading = false;          ///< The host is loading images.
+    bool m_isPicking = false;             ///< The host lets the user pick a material.
+    bool m_isShownForMode = false;        ///< Shown by the weight-map mode, which has not ended since.
     std::array<QMetaObject::Connection, 2> m_imageLoadEvents; ///< Not cut by our death: their context is the sender.
 };
 

@@ -4,7 +4,7 @@
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
-#include "sections/WidgetAccess.h"
+#include "ui/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QItemLabel.h>
 
@@ -105,36 +105,35 @@ BF::Result CSoftClothMaterialDlg::DrawThumbnail(QItemLabel* label, const Drawing
 /// \param canBeEdited  whether there is a texture and it is not embedded
 BF::Result CSoftClothMaterialDlg::FindTexture(ETextureChannel channel, Drawing& drawing, bool& canBeEdited) const
 {
-    CSceneService& scene = Scene();
     const std::size_t material = Selection().material;
     bool hasTexture = false;
     bool hasFile = false;
     bool unused1 = false;
     bool unused2 = false;
-    const BF::Result known = scene.GetMaterialTextureState(material, channel, hasTexture, hasFile, unused1, unused2);
+    const BF::Result known = Scene().GetMaterialTextureState(material, channel, hasTexture, hasFile, unused1, unused2);
     if (known.IsFailure()) {
         return known;
     }
     canBeEdited = hasTexture;
     if (!hasTexture) {
-        return scene.GetDefaultThumbnail(drawing.thumbnail);
+        return Scene().GetDefaultThumbnail(drawing.thumbnail);
     }
     if (hasFile) {
-        const bool embedded = scene.IsTextureEmbedded(material);
-        const bool loaded = scene.LoadTextureSource(material, channel);
+        const bool embedded = Scene().IsTextureEmbedded(material);
+        const bool loaded = Scene().LoadTextureSource(material, channel);
         canBeEdited = !embedded;
-        const BF::Result opened = embedded && loaded ? scene.GetEmbeddedTexture(material, channel)
-                                                     : scene.OpenTexture(material, channel, true);
+        const BF::Result opened = embedded && loaded ? Scene().GetEmbeddedTexture(material, channel)
+                                                     : Scene().OpenTexture(material, channel, true);
         if (opened.IsFailure()) {
             return opened;
         }
     }
     bool hasSource = false;
-    const BF::Result found = scene.GetTextureThumbnail(material, channel, drawing.thumbnail, hasSource);
+    const BF::Result found = Scene().GetTextureThumbnail(material, channel, drawing.thumbnail, hasSource);
     if (found.IsFailure() || !hasSource) {
         return found;
     }
-    return scene.GetThumbnailSource(material, channel, drawing.source);
+    return Scene().GetThumbnailSource(material, channel, drawing.source);
 }
 
 /// \param redraw  false: only the enabled states follow

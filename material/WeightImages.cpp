@@ -1,14 +1,15 @@
 // The weight image of the selected material: loading, saving, adjusting, and what the dialog shows of it.
 #include "material/SoftClothMaterialDlg.h"
 
-#include "plugin/MessageBox.h"
+#include "panel/HostCodes.h"
+#include "panel/MessageBox.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "plugin/services/EditService.h"
 #include "plugin/services/FileService.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
 #include "plugin/services/UiService.h"
-#include "sections/WidgetAccess.h"
+#include "ui/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QComboSpinBox.h>
 #include <BFQtCustomWidgetPluginU/QItemLabel.h>
@@ -44,7 +45,7 @@ void CSoftClothMaterialDlg::OnClickOpenFilePushButton()
 {
     const QPointer<CSoftClothMaterialDlg> self(this);
     QString path;
-    Scene().GetOpenImageFileName(path, 4, 71, 4);
+    Scene().GetOpenImageFileName(path, weightImageDialog[0], weightImageDialog[1], weightImageDialog[2]);
     if (self) {
         OnLoadWeightImage(path);
     }
@@ -69,10 +70,10 @@ void CSoftClothMaterialDlg::OnLoadWeightImage(const QString& kFilePath)
 /// Loads an image and has it taken back when the host refuses it, or the user does after a warning.
 BF::Result CSoftClothMaterialDlg::LoadWeightImage(const QString& path)
 {
+    const QPointer<CSoftClothMaterialDlg> self(this);
     const BF::Result loaded = m_host->GetFileService()->LoadWeightImage(
         Selection().object, Selection().mesh, Selection().material, path.toStdWString(), loadMode);
-    if (!loaded.IsSuccess()) {
-        const QPointer<CSoftClothMaterialDlg> self(this);
+    if (self && !loaded.IsSuccess()) {
         const bool keeps = TellLoadProblem(loaded);
         if (!self) {
             return BF::Results::NothingDone;
@@ -82,7 +83,7 @@ BF::Result CSoftClothMaterialDlg::LoadWeightImage(const QString& path)
             return undone;
         }
     }
-    return Ui().RefreshScene(0);
+    return self ? Ui().RefreshScene(0) : BF::Results::NothingDone;
 }
 
 /// Tells the user why an image is no good. \return whether it is to be kept all the same
@@ -106,21 +107,24 @@ void CSoftClothMaterialDlg::OnClickSaveFilePushButton()
 {
     const QPointer<CSoftClothMaterialDlg> self(this);
     QString path;
-    Scene().GetSaveImageFileName(path, 4, 71, 4, QString());
+    Scene().GetSaveImageFileName(path, weightImageDialog[0], weightImageDialog[1], weightImageDialog[2], QString());
     if (!self || path.isEmpty()) {
         return;
     }
     const BF::Result saved = m_host->GetFileService()->SaveWeightImage(Selection().object, Selection().mesh,
                                                                        Selection().material, path.toStdWString());
-    if (saved == BF::Results::Refused) {
+    if (self && saved == BF::Results::Refused) {
         ShowMessage(tr("Failed to save weight image."));
     }
 }
 
 void CSoftClothMaterialDlg::OnClickDeleteFilePushButton()
 {
+    const QPointer<CSoftClothMaterialDlg> self(this);
     Edit().DeleteWeightImage(Selection().object, Selection().mesh, Selection().material);
-    UpdateUi();
+    if (self) {
+        UpdateUi();
+    }
 }
 
 void CSoftClothMaterialDlg::OnClickEmbedTexturePushButton()
@@ -130,8 +134,9 @@ void CSoftClothMaterialDlg::OnClickEmbedTexturePushButton()
 
 BF::Result CSoftClothMaterialDlg::EmbedWeightImage()
 {
+    const QPointer<CSoftClothMaterialDlg> self(this);
     const BF::Result embedded = Edit().EmbedWeightImage(Selection().object, Selection().mesh, Selection().material);
-    if (embedded.IsFailure()) {
+    if (!self || embedded.IsFailure()) {
         return embedded;
     }
     Drawing drawing;
@@ -171,13 +176,16 @@ void CSoftClothMaterialDlg::OnClickOpenPathPushButton()
 
 void CSoftClothMaterialDlg::WriteWeightAdjust(bool flag1, bool flag2)
 {
+    const QPointer<CSoftClothMaterialDlg> self(this);
     const WeightImageAdjust adjust{0, ValueOf(m_ui.brightnessComboSpinBox), ValueOf(m_ui.contrastComboSpinBox)};
     const BF::Result written =
         Edit().SetWeightImageAdjust(Selection().object, Selection().mesh, Selection().material, adjust, flag1, flag2);
-    if (written == BF::Results::Refused) {
+    if (self && written == BF::Results::Refused) {
         Edit().UndoLastEdit();
-        UpdateUi();
-    } else {
+        if (self) {
+            UpdateUi();
+        }
+    } else if (self) {
         UpdateWeightSettings(true, false);
     }
 }
@@ -197,7 +205,7 @@ BF::Result CSoftClothMaterialDlg::ReloadWeightAdjust()
 
 // What the dialog shows of the weight image.
 
-/// What the host tells of the weight image.
+/// What the host reports of the weight image.
 struct CSoftClothMaterialDlg::WeightImage
 {
     BF::CHandle* thumbnail = nullptr; ///< The default one where there is no image.

@@ -1,7 +1,7 @@
 #include "plugin/PhysicsSoftClothPlugin.h"
 
 #include "material/SoftClothMaterialDlg.h"
-#include "plugin/HostCodes.h"
+#include "panel/HostCodes.h"
 #include "plugin/Parts.h"
 #include "plugin/services/AuxService.h"
 #include "plugin/services/MoviraInterface.h"
@@ -12,35 +12,7 @@
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
 
-#include <set>
-
 namespace MV {
-
-namespace {
-
-/// Whether the panel may be shown for an object of this type.
-bool IsShownType(quint32 type)
-{
-    static const std::set<quint32> types{1, 2, 3, 4, 5, 6, 30, 31, 32, 33, 34, 38, 39, 51, 52, 53};
-    return types.count(type) != 0;
-}
-
-/// Types whose objects can be converted between kinds of physics.
-bool IsConvertibleType(quint32 type)
-{
-    return type == 5 || type == 6;
-}
-
-/// Types whose material list an undo or redo may change.
-bool IsReloadedAfterUndo(quint32 type)
-{
-    return type == 1 || type == 2 || type == 5 || type == 30;
-}
-
-constexpr int panelEngine = 1;
-constexpr int noConversion = 3;
-
-} // namespace
 
 BF::Result CPhysicsSoftClothPlugin::UpdateUi()
 {
@@ -75,7 +47,7 @@ BF::Result CPhysicsSoftClothPlugin::CheckGates(BF::CHandle*& candidate)
     if (engineKnown.IsFailure()) {
         return engineKnown;
     }
-    if (engine != panelEngine) {
+    if (engine != softClothEngine) {
         return BF::Results::NothingDone;
     }
     BF::CArrayList<BF::CHandle*> selected;
@@ -121,16 +93,16 @@ BF::Result CPhysicsSoftClothPlugin::CheckObjectGates(BF::CHandle* candidate)
     if (kindKnown.IsFailure()) {
         return kindKnown;
     }
-    if (!IsShownType(m_selection.objectType)) {
+    if (!CanHaveSoftCloth(m_selection.objectType)) {
         return BF::Results::NothingDone;
     }
-    if (HasAnyBit(GetCurrentAp(), ECompatibleApp::FamilyA) && IsConvertibleType(m_selection.objectType)) {
-        int state = noConversion;
+    if (HasAnyBit(GetCurrentAp(), ECompatibleApp::FamilyA) && IsConvertedInSteps(m_selection.objectType)) {
+        int state = notConverting;
         const BF::Result stateKnown = Scene().GetSoftClothConvertState(candidate, state);
         if (stateKnown.IsFailure()) {
             return stateKnown;
         }
-        if (state != noConversion) {
+        if (state != notConverting) {
             return BF::Results::NothingDone;
         }
     }
@@ -180,9 +152,13 @@ BF::Result CPhysicsSoftClothPlugin::UpdateAllUIs(bool sameObject)
 void CPhysicsSoftClothPlugin::ShowAll(bool show)
 {
     if (!show) {
+        const QPointer<CPhysicsSoftClothPlugin> self(this);
         m_selection.Clear();
         if (Host() && Scene().GetDialogMode() == EDialogMode::WeightMap) {
             Host()->GetUiService()->SetDialogMode(EDialogMode::None);
+        }
+        if (!self) {
+            return;
         }
     }
     const auto setVisible = [show](auto& section) { section.setVisible(show); };
@@ -239,15 +215,15 @@ void CPhysicsSoftClothPlugin::ObjectDataChanged(const BF::CArrayList<BF::CHandle
 
 void CPhysicsSoftClothPlugin::OnAboutToConvertPhysicsObjectType()
 {
-    int engine = panelEngine;
+    int engine = softClothEngine;
     Scene().GetPhysicsEngineType(engine);
-    if (engine != panelEngine || Scene().GetSelectedObjectCount() != 1) {
+    if (engine != softClothEngine || Scene().GetSelectedObjectCount() != 1) {
         return;
     }
     BF::CHandle* selected = Scene().GetSelectedObject(0);
     quint32 type = 0;
     Scene().GetObjectType(selected, type);
-    if (IsConvertibleType(type)) {
+    if (IsConvertedInSteps(type)) {
         ShowAll(true);
     }
 }

@@ -6,7 +6,7 @@
 
 namespace MV {
 
-/// Runs \p call on the part; one that does not exist is passed over. The part's header is to be included.
+/// Runs \p call on the part; one that does not exist is skipped. The part's header is to be included.
 template <class Part, class Call>
 void VisitPart(const QSharedPointer<Part>& part, Call call)
 {
@@ -15,7 +15,7 @@ void VisitPart(const QSharedPointer<Part>& part, Call call)
     }
 }
 
-/// Runs \p call, which answers a BF::Result, on the part; one that does not exist answers 0.
+/// Runs \p call on the part and returns its result; 0 when the part does not exist.
 template <class Part, class Call>
 BF::Result AskPart(const QSharedPointer<Part>& part, Call call)
 {

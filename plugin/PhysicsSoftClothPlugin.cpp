@@ -35,7 +35,7 @@ CPhysicsSoftClothPlugin::~CPhysicsSoftClothPlugin()
 
 void CPhysicsSoftClothPlugin::ReleaseParts()
 {
-    // Nothing that dies below may bring the host's events back to a row of parts with gaps.
+    // Nothing destroyed below may bring host events to an object that has lost some of its parts.
     if (m_eventSender) {
         m_eventSender->disconnect(this);
     }

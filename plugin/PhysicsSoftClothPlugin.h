@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugin/SoftClothSelection.h"
+#include "panel/SoftClothSelection.h"
 #include "ui/QtUiLoader.h"
 
 #include <MVPluginQt/AbstractPlugin.h>
@@ -25,7 +25,7 @@ class CSoftClothWindSection;
 ///
 /// It owns the four sections and the two dialogs of the soft cloth panel, hands the host the list of its sections and
 /// follows the host's events: each one ends in a decision whether the panel is shown at all and in a refresh of every
-/// part. A part that does not exist, or was destroyed with its Qt parent, is passed over everywhere.
+/// part. A part that does not exist, or was destroyed with its Qt parent, is skipped everywhere.
 ///
 /// Everything runs on the host's GUI thread; host events arrive inside host calls too.
 class CPhysicsSoftClothPlugin : public QWidget, public CQtUiLoader, public CAbstractPlugin
@@ -51,14 +51,14 @@ public:
     // The plug-in interface.
 
     /// Registers the resource file, creates and initialises the parts and connects to the host's events.
-    /// Called again, it begins anew: the parts and the connections of the time before end first.
+    /// Called again, it starts over: earlier parts are destroyed and earlier connections end first.
     /// \return 0; 0x80000003 for a null \p host; 0x80000002 for a part that could not be made; else the first failure
     BF::Result Initialize(const QString& pluginPath, const QString& resourceBase, CMoviraInterface* host) override;
     /// Appends the Preset, Property, Collision and Wind sections, always four entries; null for a missing section.
     BF::Result GetSectionList(QList<CSectionInterface*>& sections) override;
     BF::Result GetMenusList(QList<QMenu*>& menus) override;
     BF::Result GetToolBarsList(QList<QToolBar*>& toolBars) override;
-    /// The plug-in has neither context actions, nor docks, nor dialogs to hand out; answers 1.
+    /// The plug-in has neither context actions, nor docks, nor dialogs to offer. \return 1
     BF::Result GetContextList(QList<QAction*>& actions) override;
     BF::Result GetDockWidgetList(QList<QDockWidget*>& docks) override;
     BF::Result GetDialogList(QList<QDialog*>& dialogs) override;
@@ -89,13 +89,13 @@ private Q_SLOTS:
     void PickedMaterialIndexChanged(BF::CHandle* object, size_t materialIndex);
 
 private:
-    /// The host's scene service, asked for anew at each use.
+    /// The host's scene service, asked for at each use.
     CSceneService& Scene() const;
 
     BF::Result CreateParts(const QString& pluginPath, const QString& resourceBase, CMoviraInterface* host);
     template <class Part, class... Arguments>
     BF::Result CreatePart(QSharedPointer<Part>& part, Arguments... arguments);
-    /// Leaves the host's events, then destroys the parts, the last in the row of the fields first.
+    /// Disconnects from the host, then destroys the parts in reverse order of declaration.
     void ReleaseParts();
     void ConnectHostEvents(CEventSender* sender);
 

@@ -1,10 +1,10 @@
 #include "plugin/PhysicsSoftClothPlugin.h"
 
 #include "material/SoftClothMaterialDlg.h"
+#include "material/SoftClothMaterialTable.h"
 #include "plugin/Parts.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
-#include "preset/SoftClothMaterialTable.h"
 #include "preset/SoftClothPresetSection.h"
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
@@ -20,7 +20,7 @@ namespace MV {
 namespace {
 
 /// Makes \p holder own \p part, which may be destroyed by its Qt parent before and takes itself out of the holder
-/// then. A dying widget says so while QPointers to it still stand, so the guard is cleared by hand.
+/// then. A widget reports its destruction while QPointers to it are still set, so the guard is cleared by hand.
 template <class Part>
 void Own(QSharedPointer<Part>& holder, Part* part, const QObject* context)
 {

@@ -10,6 +10,7 @@
 #include <QImageReader>
 #include <QListWidget>
 #include <QPixmap>
+#include <QStyle>
 #include <QTabWidget>
 
 #include <optional>
@@ -76,6 +77,21 @@ QListWidget* ListOfPage(const QTabWidget& tabs, int page)
     return content ? content->findChild<QListWidget*>() : nullptr;
 }
 
+/// Makes the cells of a list wide enough for its longest name, which is longer in some languages than in others.
+void FitNames(QListWidget& list)
+{
+    if (!list.gridSize().isValid()) {
+        return;
+    }
+    int width = 0;
+    for (int row = 0; row < list.count(); ++row) {
+        width = qMax(width, list.fontMetrics().horizontalAdvance(list.item(row)->text()));
+    }
+    // The list leaves this much on either side of a name.
+    const int margin = list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
+    list.setGridSize(list.gridSize().expandedTo({width + 2 * margin, 0}));
+}
+
 } // namespace
 
 BF::Result FillPresetGallery(const QString& root, QTabWidget& tabs)
@@ -91,6 +107,10 @@ BF::Result FillPresetGallery(const QString& root, QTabWidget& tabs)
         if (QListWidget* list = page ? ListOfPage(tabs, *page) : nullptr) {
             FillList(folders.filePath(), *list);
         }
+    }
+    const auto lists = tabs.findChildren<QListWidget*>();
+    for (QListWidget* list : lists) {
+        FitNames(*list);
     }
     if (tabs.count() > 0) {
         tabs.setCurrentIndex(0);

@@ -1,5 +1,6 @@
 #include "preset/SoftClothPresetSection.h"
 
+#include "panel/HostCodes.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "plugin/services/FileService.h"
 #include "plugin/services/MoviraInterface.h"
@@ -9,7 +10,7 @@
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
-#include "sections/WidgetAccess.h"
+#include "ui/WidgetAccess.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
@@ -21,8 +22,6 @@
 namespace MV {
 
 namespace {
-
-constexpr int profileFolder = 72;
 
 const QString gravityKey = QStringLiteral("Use_Global_Gravity");
 
@@ -71,10 +70,11 @@ QString ChooseIniFile(QWidget* parent, QFileDialog::AcceptMode mode, const QStri
 std::vector<ProfileGroup> CSoftClothPresetSection::ProfileGroups()
 {
     const auto load = [this](QSettings& profile) {
+        const QPointer<CSoftClothPresetSection> self(this);
         const bool gravity = profile.value(gravityKey).toBool();
         // Not silent: a box that changes writes the gravity too.
         SetChecked(m_ui.useWorldGravityCheckBox, gravity);
-        return WriteGravity(gravity);
+        return self ? WriteGravity(gravity) : BF::Result(BF::Results::NothingDone);
     };
     const auto save = [this](QSettings& profile) {
         profile.setValue(gravityKey, IsChecked(m_ui.useWorldGravityCheckBox));
@@ -119,6 +119,9 @@ QString CSoftClothPresetSection::DefaultFolder() const
 
 void CSoftClothPresetSection::OnClickOpenFilePushButton()
 {
+    if (!m_host) {
+        return;
+    }
     const QPointer<CSoftClothPresetSection> self(this);
     const QString path =
         ChooseIniFile(this, QFileDialog::AcceptOpen, tr("Load Soft Cloth Custom Profile", "Open File title"),
@@ -130,6 +133,9 @@ void CSoftClothPresetSection::OnClickOpenFilePushButton()
 
 void CSoftClothPresetSection::OnClickSaveFilePushButton()
 {
+    if (!m_host) {
+        return;
+    }
     const QPointer<CSoftClothPresetSection> self(this);
     const QString path =
         ChooseIniFile(this, QFileDialog::AcceptSave, tr("Save Soft Cloth Custom Profile", "Open File title"),
@@ -141,6 +147,9 @@ void CSoftClothPresetSection::OnClickSaveFilePushButton()
 
 void CSoftClothPresetSection::OnClickLoadIniPushButton()
 {
+    if (!m_host) {
+        return;
+    }
     const QPointer<CSoftClothPresetSection> self(this);
     const QString path = ChooseIniFile(this, QFileDialog::AcceptOpen, tr("Load Soft Ini Profile", "Open File title"),
                                        DefaultFolder(), tr("INI Files (*.ini)"));

@@ -1,12 +1,18 @@
 #include "preset/ProfileFile.h"
 
+#include "ui/IniFile.h"
+#include "ui/IniText.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSaveFile>
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <memory>
 #include <optional>
 
 namespace MV {
@@ -14,12 +20,8 @@ namespace MV {
 namespace {
 
 constexpr const char* profileCodec = "UTF-8";
-
-std::optional<QByteArray> ReadAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? std::make_optional(file.readAll()) : std::nullopt;
-}
+const QString workFolders = QStringLiteral("softcloth-profile-");
+const QString lockSuffix = QStringLiteral(".lock");
 
 /// Writes a file as a whole: whatever goes wrong, the file is the old one or the new one.
 bool WriteAll(const QString& path, const QByteArray& content)
@@ -29,61 +31,120 @@ bool WriteAll(const QString& path, const QByteArray& content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
 }
 
-/// Whether \p content is all that a store has written of \p keys keys, each on a line of its own between the headers
-/// and the blank lines of the groups. The store itself does not notice when its last block does not fit on the disk.
-bool IsWhole(const QByteArray& content, int keys)
+/// Removes the working folders of saves that were killed. The lock beside the folder of a save that is going on is held
+/// until the folder is gone.
+void RemoveAbandonedFolders(const QString& folder)
 {
-    const QList<QByteArray> lines = content.split('\n');
-    for (const QByteArray& line : lines) {
-        if (!line.trimmed().isEmpty() && !line.startsWith('[')) {
-            --keys;
+    const QDir place(folder);
+    const QStringList locks = place.entryList({workFolders + QLatin1Char('*') + lockSuffix}, QDir::Files);
+    for (const QString& name : locks) {
+        QLockFile lock(place.filePath(name));
+        if (lock.tryLock()) {
+            QDir(place.filePath(name.chopped(lockSuffix.size()))).removeRecursively();
         }
     }
-    return keys == 0 && content.endsWith('\n');
 }
 
-/// A copy of a profile for the store to work on, in a place that it does not know yet.
-///
-/// The store keeps what it has read of a file and takes it for the file's content as long as size and time are the
-/// same. It also keeps what it failed to write and writes it the next time that anybody opens the file, be it only to
-/// read.
+/// A copy of a profile for QSettings to work on, in a folder of its own.
 class CWorkingCopy
 {
 public:
+    /// \param folder  where the working folder is made
     CWorkingCopy(const QByteArray& content, const QString& folder)
-        : m_folder(folder + QLatin1String("/profile-XXXXXX"))
-        , m_isMade(m_folder.isValid() && WriteAll(Path(), content))
+        : m_folder(folder + QLatin1Char('/') + workFolders + QLatin1String("XXXXXX"))
+        , m_lock(m_folder.path() + lockSuffix)
     {
+        if (m_folder.isValid() && m_lock.tryLock() && WriteAll(Path(), content)) {
+            m_settings = std::make_unique<QSettings>(Path(), QSettings::IniFormat);
+            m_settings->setIniCodec(profileCodec);
+        }
     }
+    ~CWorkingCopy()
+    {
+        m_settings.reset();
+        m_folder.remove();
+        m_lock.unlock();
+    }
+    Q_DISABLE_COPY_MOVE(CWorkingCopy)
 
-    bool IsMade() const { return m_isMade; }
-    QString Path() const { return m_folder.filePath(QStringLiteral("profile.ini")); }
+    bool IsMade() const { return m_settings != nullptr; }
+    QSettings& Settings() { return *m_settings; }
+
+    /// Lets QSettings write. \return the whole file, or none when it could not be written whole
+    std::optional<QByteArray> Written()
+    {
+        m_settings->sync();
+        const auto content = ReadIniText(Path());
+        return m_settings->status() != QSettings::AccessError && content && IsWhole(*content) ? content : std::nullopt;
+    }
 
 private:
+    QString Path() const { return m_folder.filePath(QStringLiteral("profile.ini")); }
+
+    /// QSettings does not notice when its last block does not fit on the disk.
+    bool IsWhole(const QByteArray& content)
+    {
+        const QStringList keys = m_settings->allKeys();
+        if (keys.isEmpty()) {
+            return true;
+        }
+        // Under another name, which QSettings reads.
+        const QString other = m_folder.filePath(QStringLiteral("written.ini"));
+        if (!content.endsWith('\n') || !QFile::rename(Path(), other)) {
+            return false;
+        }
+        const QSettings written(other, QSettings::IniFormat);
+        return std::all_of(keys.cbegin(), keys.cend(),
+                           [&](const QString& key) { return key.isEmpty() || written.contains(key); });
+    }
+
     QTemporaryDir m_folder;
-    bool m_isMade;
+    QLockFile m_lock;
+    std::unique_ptr<QSettings> m_settings;
 };
 
-/// What a file that contains \p old is to contain: the same, with the groups saved over it.
-/// \param folder  where the work is done
-std::optional<QByteArray> MergedContent(const QByteArray& old, const QString& folder,
-                                        const std::vector<ProfileGroup>& groups)
+void SaveGroups(QSettings& profile, const std::vector<ProfileGroup>& groups)
 {
-    const CWorkingCopy copy(old, folder);
-    if (!copy.IsMade()) {
-        return std::nullopt;
-    }
-    QSettings profile(copy.Path(), QSettings::IniFormat);
-    profile.setIniCodec(profileCodec);
     for (const ProfileGroup& group : groups) {
         profile.beginGroup(group.name);
         group.save(profile);
         profile.endGroup();
     }
-    profile.sync();
-    const auto content = ReadAll(copy.Path());
-    const bool isWritten = profile.status() != QSettings::AccessError;
-    return isWritten && content && IsWhole(*content, profile.allKeys().size()) ? content : std::nullopt;
+}
+
+void CopyValues(const QSettings& from, QSettings& to)
+{
+    const QStringList keys = from.allKeys();
+    for (const QString& key : keys) {
+        if (!key.isEmpty()) {
+            to.setValue(key, from.value(key));
+        }
+    }
+}
+
+/// What a file that contains \p old is to contain: the same, with the groups saved over it.
+/// \param ownFolder  where the work is done when there is no place or no room for temporary files
+std::optional<QByteArray> MergedContent(const QByteArray& old, const QString& ownFolder,
+                                        const std::vector<ProfileGroup>& groups)
+{
+    CWorkingCopy first(old, QDir::tempPath());
+    if (first.IsMade()) {
+        SaveGroups(first.Settings(), groups);
+        if (const auto content = first.Written()) {
+            return content;
+        }
+    }
+    CWorkingCopy second(old, ownFolder);
+    if (!second.IsMade()) {
+        return std::nullopt;
+    }
+    // Saved once only: a group may ask its host for values.
+    if (first.IsMade()) {
+        CopyValues(first.Settings(), second.Settings());
+    } else {
+        SaveGroups(second.Settings(), groups);
+    }
+    return second.Written();
 }
 
 } // namespace
@@ -94,13 +155,11 @@ EProfileProblem LoadProfile(const QString& path, const std::vector<ProfileGroup>
     if (!QFileInfo(path).isFile()) {
         return EProfileProblem::InvalidPath;
     }
-    const auto content = ReadAll(path);
-    if (!content) {
+    CIniReader reader(path);
+    if (!reader.IsRead()) {
         return EProfileProblem::Unreadable;
     }
-    const CWorkingCopy copy(*content, QDir::tempPath());
-    QSettings profile(copy.IsMade() ? copy.Path() : path, QSettings::IniFormat);
-    profile.setIniCodec(profileCodec);
+    QSettings& profile = reader.Settings();
     const QStringList present = profile.childGroups();
     for (const ProfileGroup& group : groups) {
         if (present.contains(group.name) && !result.IsFailure()) {
@@ -117,16 +176,14 @@ EProfileProblem SaveProfile(const QString& path, const std::vector<ProfileGroup>
     if (!QSettings(path, QSettings::IniFormat).isWritable()) {
         return EProfileProblem::Unwritable;
     }
-    const auto old = QFile::exists(path) ? ReadAll(path) : QByteArray();
+    const auto old = QFile::exists(path) ? ReadIniText(path) : QByteArray();
     if (!old) {
         return EProfileProblem::Unwritable;
     }
-    auto content = MergedContent(*old, QDir::tempPath(), groups);
-    if (!content) {
-        // No room for temporary files; the profile's own folder must have some anyway.
-        content = MergedContent(*old, QFileInfo(path).absolutePath(), groups);
-    }
-    return content && WriteAll(path, *content) ? EProfileProblem::None : EProfileProblem::Unwritable;
+    RemoveAbandonedFolders(QDir::tempPath());
+    const CShelteredIni sheltered(*old);
+    const auto merged = MergedContent(sheltered.Content(), QFileInfo(path).absolutePath(), groups);
+    return merged && WriteAll(path, sheltered.Restored(*merged)) ? EProfileProblem::None : EProfileProblem::Unwritable;
 }
 
 } // namespace MV

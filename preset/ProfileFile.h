@@ -34,7 +34,7 @@ enum class EProfileProblem
 /// \param result  receives that failure, or 0
 EProfileProblem LoadProfile(const QString& path, const std::vector<ProfileGroup>& groups, BF::Result& result);
 
-/// Lets all of \p groups be saved to \p path. What an existing file holds besides is kept, comments excepted. A save
+/// Lets all of \p groups be saved to \p path. What else an existing file holds is kept, comments excepted. A save
 /// that does not succeed leaves the file as it was.
 EProfileProblem SaveProfile(const QString& path, const std::vector<ProfileGroup>& groups);
 

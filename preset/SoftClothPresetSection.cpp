@@ -1,9 +1,9 @@
 #include "preset/SoftClothPresetSection.h"
 
 #include "material/SoftClothMaterialDlg.h"
-#include "plugin/HostCodes.h"
-#include "plugin/MessageBox.h"
-#include "plugin/PanelForm.h"
+#include "panel/HostCodes.h"
+#include "panel/MessageBox.h"
+#include "panel/PanelForm.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "plugin/services/EditService.h"
 #include "plugin/services/HotKeyService.h"
@@ -11,10 +11,12 @@
 #include "plugin/services/SceneService.h"
 #include "plugin/services/SoftClothService.h"
 #include "plugin/services/UiService.h"
+#include "preset/ApplyKeys.h"
+#include "preset/EditedMaterial.h"
 #include "preset/PresetGallery.h"
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
-#include "sections/WidgetAccess.h"
+#include "ui/WidgetAccess.h"
 
 #include <MVPluginQt/EventSender.h>
 
@@ -29,15 +31,6 @@
 namespace MV {
 
 namespace {
-
-constexpr int presetFolder = 3;
-constexpr int unconvertibleKind = 14;
-
-/// Types whose objects are not turned into rigid bodies and back.
-bool IsUnconvertibleType(quint32 type)
-{
-    return type == 1 || type == 2 || type == 3;
-}
 
 /// Whether \p now is the material that \p before was, and soft cloth.
 bool IsStillShown(const SoftClothSelection& before, const SoftClothSelection& now)
@@ -71,6 +64,7 @@ BF::Result CSoftClothPresetSection::Init(const QString& /*pluginPath*/, const QS
     SetSectionWidgets(m_ui.expandButton, m_ui.sectionGroupBox);
     RegisterHotKeys();
     ConnectWidgets();
+    ShowEditedMaterial();
     FillGallery();
     if (CEventSender* events = host->GetEventSender()) {
         connect(events, &CEventSender::PhysicsSoftClothMultiMaterialsDetected, this,
@@ -114,21 +108,31 @@ void CSoftClothPresetSection::ConnectWidgets()
     }
 }
 
+/// All sections edit one material, which is chosen in the material dialog.
+void CSoftClothPresetSection::ShowEditedMaterial()
+{
+    if (m_ui.editedMaterialLabel) {
+        const CSoftClothMaterialDlg* dialog = m_plugin->MaterialDlg();
+        new CEditedMaterial(m_ui.editedMaterialLabel, dialog ? dialog->MaterialListWidget() : nullptr);
+    }
+}
+
 void CSoftClothPresetSection::FillGallery()
 {
     if (!m_ui.presetTabWidget) {
         return;
     }
     std::wstring folder;
-    const BF::Result known = Scene().GetDataFolderPath(folder, presetFolder);
+    const BF::Result known = Scene().GetDataFolderPath(folder, presetDataFolder);
     // An empty root gives an empty gallery; the section works without.
     FillPresetGallery(known.IsFailure() ? QString()
                                         : QString::fromStdWString(folder) + QLatin1String("PhysicsSoftPreset"),
                       *m_ui.presetTabWidget);
     const auto lists = m_ui.presetTabWidget->findChildren<QListWidget*>();
     for (QListWidget* list : lists) {
-        connect(list, &QListWidget::itemDoubleClicked, this,
-                [this, list] { OnChangeCurrentItemOfPresetContentListWidget(list); });
+        const auto apply = [this, list] { OnChangeCurrentItemOfPresetContentListWidget(list); };
+        connect(list, &QListWidget::itemDoubleClicked, this, apply);
+        new CApplyKeys(list, apply);
     }
 }
 
@@ -204,7 +208,7 @@ BF::Result CSoftClothPresetSection::EnableRadioButtons()
     if (known.IsFailure()) {
         return known;
     }
-    const bool enable = !IsUnconvertibleType(Selection().objectType) && kind != unconvertibleKind;
+    const bool enable = !IsSoftClothOnly(Selection().objectType) && kind != unconvertibleKind;
     EnableWidget(m_ui.rigidBodyRadioButton, enable);
     EnableWidget(m_ui.softClothRadioButton, enable);
     return BF::Results::Success;
@@ -253,14 +257,19 @@ int CSoftClothPresetSection::MaterialCount() const
 void CSoftClothPresetSection::OnClickActivePhysicsCheckBox()
 {
     const QPointer<CSoftClothPresetSection> self(this);
+    if (!m_host) {
+        return;
+    }
     const bool activate = IsChecked(m_ui.activePhysicsCheckBox);
     Selection().softClothActive = activate;
-    if ((activate && !MayBecomeSoftCloth()) || !self) {
+    if ((activate && !PrepareSoftCloth()) || !self) {
         return;
     }
     // The write can send events that refresh the whole panel: from here on the selection says what holds.
+    const BF::CHandle* object = Selection().object;
     Edit().SetPhysicsActive(Selection().object, softClothPhysics, Selection().softClothActive, true, true);
-    if (!self) {
+    if (!self || Selection().object != object) {
+        // Gone, or showing something else, whose own refresh has enabled what belongs to it.
         return;
     }
     m_plugin->EnableAll(Selection().softClothActive);
@@ -271,12 +280,17 @@ void CSoftClothPresetSection::OnClickActivePhysicsCheckBox()
     }
 }
 
-/// Makes sure that the selected material is soft cloth. \return false when the physics is not to be switched on
-bool CSoftClothPresetSection::MayBecomeSoftCloth()
+/// Makes the selected material soft cloth if it is not. \return false when the physics is not to be switched on
+bool CSoftClothPresetSection::PrepareSoftCloth()
 {
     const SoftClothSelection& shown = Selection();
+    const BF::CHandle* const clicked = shown.object;
     bool active = false;
     Scene().IsSoftClothActive(shown.object, shown.mesh, shown.material, active);
+    // In the call the host may have selected another object, which the user did not switch on.
+    if (shown.object != clicked) {
+        return false;
+    }
     if (active) {
         return true;
     }
@@ -365,18 +379,25 @@ bool CSoftClothPresetSection::IsWeightMapMode() const
 
 void CSoftClothPresetSection::OnClickPaintPushButton()
 {
-    Ui().SetDialogMode(IsWeightMapMode() ? EDialogMode::None : EDialogMode::WeightMap);
+    if (!m_host) {
+        return;
+    }
+    if (!IsWeightMapMode()) {
+        Ui().SetDialogMode(EDialogMode::WeightMap);
+        return;
+    }
+    CSoftClothMaterialDlg* dialog = m_plugin->MaterialDlg();
+    if (!dialog || !dialog->ShowAgainInOpenMode()) {
+        Ui().SetDialogMode(EDialogMode::None);
+    }
 }
 
 void CSoftClothPresetSection::ConvertToRigidBody()
 {
-    constexpr int physicsPage = 4;
-    constexpr int physicsOrder = 6;
-    constexpr int physicsFlags = 64;
-    // Asked for first: the conversion can end this section.
-    CUiService& ui = Ui();
+    // The conversion can destroy this section.
+    CMoviraInterface* host = m_host;
     Edit().ConvertToRigidBody(Scene().GetSelectedObject(0));
-    ui.ShowPanelPage(physicsPage, physicsOrder, physicsFlags);
+    host->GetUiService()->ShowPanelPage(physicsPage[0], physicsPage[1], physicsPage[2]);
 }
 
 void CSoftClothPresetSection::OnClickUseWorldGravityCheckBox()
@@ -386,6 +407,9 @@ void CSoftClothPresetSection::OnClickUseWorldGravityCheckBox()
 
 BF::Result CSoftClothPresetSection::WriteGravity(bool useGlobalGravity)
 {
+    if (!m_host) {
+        return BF::Results::InvalidArgument;
+    }
     const SoftClothSelection& shown = Selection();
     return Edit().SetUseGlobalGravity(shown.object, shown.mesh, shown.material, useGlobalGravity,
                                       shown.affectAllMaterials);
@@ -398,6 +422,9 @@ void CSoftClothPresetSection::OnClickAffectAllMaterialsCheckBox()
 
 void CSoftClothPresetSection::ShowMessage(const QString& text)
 {
+    if (!m_host) {
+        return;
+    }
     ShowInformation(*m_host, text, tr("[Physics Soft Cloth Section] Movira 6", "Message Title"), this);
 }
 

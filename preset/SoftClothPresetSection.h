@@ -56,7 +56,7 @@ public:
     BF::Result ConfirmMultipleMaterials();
 
     /// Applies the profile at \p path: the groups that it has, in a fixed order.
-    /// \return 0; 1 when there is no such file or it cannot be read, which the user was told; or the failure of a host
+    /// \return 0; 1 when there is no such file or it cannot be read, after a message; or the failure of a host
     ///         call, at which the loading ends
     BF::Result LoadProfileFile(const QString& path);
 
@@ -86,9 +86,10 @@ private:
 
     void RegisterHotKeys();
     void ConnectWidgets();
+    void ShowEditedMaterial();
     void FillGallery();
 
-    bool MayBecomeSoftCloth();
+    bool PrepareSoftCloth();
     int MaterialCount() const;
     void RefuseSoftCloth();
     void RefreshAfterSwitchOn();

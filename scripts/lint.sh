@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Checks the sources: --format (clang-format), --tidy (clang-tidy and clazy on the dev build), both without options.
+# Checks the sources: --format (clang-format), --tidy (clang-tidy and clazy on the dev build), --translations (whether
+# they are up to date); all of them without options.
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
-rooms=(ui sdk plugin sections material preset host tests)
+rooms=(ui sdk panel plugin sections material preset host tests)
 mapfile -t sources < <(find "${rooms[@]}" -name '*.cpp' | sort)
 mapfile -t headers < <(find "${rooms[@]}" -name '*.h' | sort)
 
@@ -21,7 +22,7 @@ analyse_one() {
     found=$(clang-tidy -p build/dev --quiet "$1" 2>/dev/null)
     if command -v clazy-standalone >/dev/null; then
         found+=$(clazy-standalone -p build/dev --checks="$clazy_checks" \
-            --header-filter='/(ui|sdk|plugin|sections|material|preset|host|tests)/' "$1" 2>&1 |
+            --header-filter='/(ui|sdk|panel|plugin|sections|material|preset|host|tests)/' "$1" 2>&1 |
             grep -E -A4 'warning:|error:')
     fi
     if [ -n "$found" ]; then
@@ -68,8 +69,10 @@ check_tidy() {
 case "${1:-}" in
 --format) check_format ;;
 --tidy) check_tidy ;;
+--translations) scripts/translations.sh --check ;;
 *)
     check_format
+    scripts/translations.sh --check
     check_tidy
     ;;
 esac

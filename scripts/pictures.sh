@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the pictures of the documentation anew: runs the tour and takes some of its pictures over into docs/images.
+# Makes the pictures of the documentation again: runs the tour and copies some of its pictures to docs/images.
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 scripts/setup.sh
 build dev softcloth-workbench

@@ -13,6 +13,9 @@ cmake -S tests/package -B build/vendor/package -G Ninja -DCMAKE_PREFIX_PATH="$PW
 cmake --build build/vendor/package
 QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen} build/vendor/package/sdk-consumer
 
+say "Reading the widgets as Qt Designer does"
+QT_PLUGIN_PATH=$PWD/$sdk/lib/qt5/plugins QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen} build/vendor/package/designer-widgets
+
 # Without its build tree at hand, the plug-in can only find what was installed.
 say "Building the plug-in with MOVIRA_SDK_DIR=$sdk"
 cmake -S . -B "$tree" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMOVIRA_SDK_DIR="$PWD/$sdk" \

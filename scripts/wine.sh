@@ -5,7 +5,7 @@ set -euo pipefail
 libraries=$1
 shift
 
-# Where Windows programs look for DLLs besides their own folder: Qt's and the compiler's run time.
+# Where Windows programs look for DLLs apart from their own folder: Qt's and the compiler's run time.
 run_time=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")
 WINEPATH=
 for folder in "$libraries/bin" "$run_time" /usr/x86_64-w64-mingw32/lib; do
@@ -19,7 +19,7 @@ export WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES='mscoree,mshtml='
 mkdir -p "$(dirname "$WINEPREFIX")"
 
-# Qt's test programs would tell a debugger otherwise.
+# Qt's test programs would write to a debugger otherwise.
 export QT_FORCE_STDERR_LOGGING=1
 # Where the platform without a display looks for fonts.
 export QT_QPA_FONTDIR='Z:\usr\share\fonts\truetype\dejavu'

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 #include <algorithm>
 #include <limits>
@@ -59,7 +60,7 @@ int ToInt(qint64 value)
     return int(qBound(qint64(std::numeric_limits<int>::min()), value, qint64(std::numeric_limits<int>::max())));
 }
 
-/// Where a level that has its own height stands.
+/// The position of a level that has its own height.
 int OwnY(const SliderLevel& level)
 {
     return level.yOffset - gapBelowLine - lineWidth + lineY;
@@ -148,7 +149,7 @@ void CMultiLevelSlider::SetSelectedIndex(std::size_t index)
     update();
 }
 
-QRect CMultiLevelSlider::HitRect(std::size_t index) const
+QRect CMultiLevelSlider::HandleRect(std::size_t index) const
 {
     return {QPoint(LevelPosition(index), handleY), m_handleSize};
 }
@@ -156,7 +157,7 @@ QRect CMultiLevelSlider::HitRect(std::size_t index) const
 int CMultiLevelSlider::LevelAt(const QPoint& position, bool selectableOnly) const
 {
     for (std::size_t i = m_levels.size(); i-- > 0;) {
-        if (HitRect(i).contains(position) && (m_levels[i].selectable || !selectableOnly)) {
+        if (HandleRect(i).contains(position) && (m_levels[i].selectable || !selectableOnly)) {
             return int(i);
         }
     }
@@ -240,7 +241,7 @@ void CMultiLevelSlider::Select(std::size_t index)
 
 void CMultiLevelSlider::StartDrag(std::size_t index, int cursorX)
 {
-    // The owner may have set the slider up anew when it heard of the selection.
+    // The owner may have set the slider up again when it was notified of the selection.
     if (index < m_levels.size() && !m_levels[index].fixed) {
         m_draggedIndex = int(index);
         m_dragOffset = m_halfWidth - cursorX + LevelPosition(index);
@@ -297,7 +298,11 @@ int CMultiLevelSlider::KeepDistance(int value, int gap) const
 void CMultiLevelSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     if (m_draggedIndex >= 0) {
+        const QPointer<CMultiLevelSlider> self(this);
         Report(valueChanged);
+        if (!self) {
+            return;
+        }
         m_draggedIndex = -1;
     }
     QWidget::mouseReleaseEvent(event);

@@ -20,7 +20,7 @@ namespace MV {
 struct SliderLevel
 {
     int value = 0;
-    int yOffset = 0; ///< Where the handle stands with customY, and its label always; 6 is the usual height.
+    int yOffset = 0; ///< Position of the handle with customY, and of its label always; 6 is the usual height.
     int labelYOffset = 0;
     int labelXOffset = 0;
     int labelHeight = 0;
@@ -68,14 +68,17 @@ public:
     /// The value of a level; the minimum when there is no such level.
     int LevelValue(std::size_t index) const;
     /// Left edge of a level's image; 0 when there is no such level. On a slider narrower than an image those above the
-    /// minimum stand left of 0.
+    /// minimum are left of 0.
     int LevelPosition(std::size_t index) const;
+
+    /// Where a level takes the mouse, which is where its image is unless it has its own height.
+    QRect HandleRect(std::size_t index) const;
 
     std::size_t SelectedIndex() const { return m_selectedIndex; }
     /// Selects a level without calling anybody.
     void SetSelectedIndex(std::size_t index);
 
-    // Set by the owner; an empty one is passed over.
+    // Set by the owner; an empty one is not called.
     Callback valueChanging;    ///< A drag has moved a level.
     Callback valueChanged;     ///< A drag is ending, whether or not it moved anything.
     Callback selectionChanged; ///< A press selects another level; it does so whatever the owner selects meanwhile.
@@ -91,7 +94,6 @@ protected:
 
 private:
     int TrackLength() const;
-    QRect HitRect(std::size_t index) const;
     /// The last level at \p position, or the last selectable one; -1 for none.
     int LevelAt(const QPoint& position, bool selectableOnly) const;
     const QPixmap& ImageOf(std::size_t index) const;

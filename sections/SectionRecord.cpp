@@ -1,6 +1,6 @@
 #include "sections/SectionRecord.h"
 
-#include "sections/WidgetAccess.h"
+#include "ui/WidgetAccess.h"
 
 #include <QGroupBox>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugin/SoftClothSelection.h"
+#include "panel/SoftClothSelection.h"
 #include "plugin/services/EditService.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
@@ -42,13 +42,16 @@ BF::Result ReadShownRecord(const SoftClothSelection& selection, CMoviraInterface
     return read.IsFailure() ? read : BF::Results::Success;
 }
 
-/// Writes what \p type names of \p record, to all materials of the object where the selection says so.
+/// Writes what \p type names of \p record, to all materials of the object where the selection says so. Without a host
+/// nothing is written.
 template <class Record, class Type>
-void WriteRecord(const SoftClothSelection& selection, CMoviraInterface& host, SetRecord<Record, Type> set, Type type,
+void WriteRecord(const SoftClothSelection& selection, CMoviraInterface* host, SetRecord<Record, Type> set, Type type,
                  const Record& record)
 {
-    (host.GetEditService()->*set)(selection.object, selection.mesh, selection.material, type, record,
-                                  selection.affectAllMaterials);
+    if (host) {
+        (host->GetEditService()->*set)(selection.object, selection.mesh, selection.material, type, record,
+                                       selection.affectAllMaterials);
+    }
 }
 
 } // namespace MV

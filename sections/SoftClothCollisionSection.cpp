@@ -1,9 +1,10 @@
 #include "sections/SoftClothCollisionSection.h"
 
-#include "plugin/PanelForm.h"
+#include "panel/PanelForm.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
+#include "sections/ProfileNumbers.h"
 #include "sections/SectionRecord.h"
-#include "sections/WidgetAccess.h"
+#include "ui/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QDoubleSpinBoxEx.h>
 
@@ -124,16 +125,16 @@ void CSoftClothCollisionSection::WriteField(ESoftClothCollisionType type, Value 
 
 void CSoftClothCollisionSection::Write(ESoftClothCollisionType type, const SoftClothCollisionData& record)
 {
-    WriteRecord(m_plugin->Selection(), *m_host, &CEditService::SetSoftClothCollision, type, record);
+    WriteRecord(m_plugin->Selection(), m_host, &CEditService::SetSoftClothCollision, type, record);
 }
 
 void CSoftClothCollisionSection::LoadProfile(QSettings& profile)
 {
     SoftClothCollisionData record;
     record.collideWithRigid = profile.value(rigidKey).toBool();
-    record.rigidMargin = profile.value(rigidMarginKey).toFloat();
+    record.rigidMargin = ProfileNumber<float>(profile.value(rigidMarginKey));
     record.selfCollision = profile.value(selfKey).toBool();
-    record.selfMargin = profile.value(selfMarginKey).toFloat();
+    record.selfMargin = ProfileNumber<float>(profile.value(selfMarginKey));
 
     SetChecked(m_ui.collideWithRigidCheckBox, record.collideWithRigid);
     ShowValue(m_ui.rigidMarginSpinBox, double(record.rigidMargin));

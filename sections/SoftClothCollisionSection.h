@@ -14,7 +14,7 @@ namespace MV {
 
 class CMoviraInterface;
 class CPhysicsSoftClothPlugin;
-enum class ESoftClothCollisionType : int;
+enum class ESoftClothCollisionType;
 struct SoftClothCollisionData;
 
 /// The collision section: whether the cloth collides with rigid bodies and with itself, and at what margins.

@@ -1,36 +1,35 @@
 #pragma once
 
-#include "ui/UiComponent.h"
+#include "ui/FormComponent.h"
 
-class QCheckBox;
-class QDoubleSpinBoxEx;
-class QGroupBox;
-class QHBoxLayout;
-class QLabel;
-class QPushButton;
-class QVBoxLayout;
+#include <BFQtCustomWidgetPluginU/QDoubleSpinBoxEx.h>
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
 
 /// The widgets of the form "SoftClothCollision".
-class CSoftClothCollisionUiComponent : public CUiComponent
+class CSoftClothCollisionUiComponent : public CFormComponent
 {
 public:
-    void SetupUi(CQtUiLoader& loader) override;
-    QWidget* GetRootWidget() override;
+    QWidget* GetRootWidget() override { return root; }
 
-    QCheckBox* collideWithRigidCheckBox = nullptr;
-    QCheckBox* selfCollisionCheckBox = nullptr;
-    QDoubleSpinBoxEx* rigidMarginSpinBox = nullptr;
-    QDoubleSpinBoxEx* selfMarginSpinBox = nullptr;
-    QGroupBox* sectionGroupBox = nullptr;
-    QLabel* selfMarginLabel = nullptr;
-    QLabel* rigidMarginLabel = nullptr;
-    QPushButton* expandButton = nullptr;
-    QWidget* root = nullptr;
-
-    QHBoxLayout* horizontalLayout_2 = nullptr;
-    QVBoxLayout* verticalLayout_4 = nullptr;
-    QHBoxLayout* horizontalLayout = nullptr;
-    QVBoxLayout* verticalLayout_3 = nullptr;
-    QVBoxLayout* verticalLayout = nullptr;
-    QVBoxLayout* verticalLayout_2 = nullptr;
+    Found<QCheckBox> collideWithRigidCheckBox{*this, "qtCollideWithRigidCheckBox"};
+    Found<QCheckBox> selfCollisionCheckBox{*this, "qtSelfCollisionCheckBox"};
+    FoundCustom<QDoubleSpinBoxEx> rigidMarginSpinBox{*this, "qtCollideWithRigidMarginDoubleEXSpinBox"};
+    FoundCustom<QDoubleSpinBoxEx> selfMarginSpinBox{*this, "qtSelfCollisionMarginDoubleEXSpinBox"};
+    Found<QGroupBox> sectionGroupBox{*this, "qtSectionGroupBox"};
+    Found<QLabel> selfMarginLabel{*this, "qtSelfCollisionMarginLabel"};
+    Found<QLabel> rigidMarginLabel{*this, "qtSoftRigidCollisionMarginLabel"};
+    Found<QPushButton> expandButton{*this, "qtExpandPushButton"};
+    Found<QWidget> root{*this, "SoftClothCollision"};
+    Found<QHBoxLayout> horizontalLayout_2{*this, "horizontalLayout_2"};
+    Found<QVBoxLayout> verticalLayout_4{*this, "verticalLayout_4"};
+    Found<QHBoxLayout> horizontalLayout{*this, "horizontalLayout"};
+    Found<QVBoxLayout> verticalLayout_3{*this, "verticalLayout_3"};
+    Found<QVBoxLayout> verticalLayout{*this, "verticalLayout"};
+    Found<QVBoxLayout> verticalLayout_2{*this, "verticalLayout_2"};
 };

@@ -27,7 +27,7 @@ struct Decimal
     static double ToBox(float host) { return static_cast<double>(host); }
 };
 
-/// Percent of what is taken away: 0 is the host's 1.0, 100 is its 0.0.
+/// Percent of what is removed: 0 is the host's 1.0, 100 is its 0.0.
 struct TakenPercent
 {
     using Profile = int;

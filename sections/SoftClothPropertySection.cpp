@@ -1,10 +1,11 @@
 #include "sections/SoftClothPropertySection.h"
 
-#include "plugin/PanelForm.h"
+#include "panel/PanelForm.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
+#include "sections/ProfileNumbers.h"
 #include "sections/SectionRecord.h"
 #include "sections/SoftClothConversions.h"
-#include "sections/WidgetAccess.h"
+#include "ui/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QComboSpinBox.h>
 #include <BFQtCustomWidgetPluginU/QDoubleSpinBoxEx.h>
@@ -24,7 +25,7 @@ using Record = SoftClothPropertyData;
 using Type = ESoftClothPropertyType;
 using Ui = CSoftClothPropertyUiComponent;
 
-/// A field under the name that it bears in a profile.
+/// A field and its key in a profile.
 struct ProfileField
 {
     QLatin1String key;
@@ -130,26 +131,26 @@ void CSoftClothPropertySection::EnableUi(bool enable)
 
 void CSoftClothPropertySection::Write(Type type, const Record& record)
 {
-    WriteRecord(m_plugin->Selection(), *m_host, &CEditService::SetSoftClothProperty, type, record);
+    WriteRecord(m_plugin->Selection(), m_host, &CEditService::SetSoftClothProperty, type, record);
 }
 
 void CSoftClothPropertySection::LoadProfile(QSettings& profile)
 {
     Record record;
     ForEachField([&](QLatin1String key, auto box, auto field, Type /*type*/, auto conversion) {
-        const auto value = profile.value(key).value<typename decltype(conversion)::Profile>();
+        const auto value = ProfileNumber<typename decltype(conversion)::Profile>(profile.value(key));
         record.*field = conversion.ToHost(value);
         ShowValue(m_ui.*box, static_cast<decltype(ValueOf(m_ui.*box))>(value));
     });
     for (const ProfileField& scale : inertiaScales) {
-        record.*scale.field = Tenths::ToHost(profile.value(scale.key).toFloat());
+        record.*scale.field = Tenths::ToHost(ProfileNumber<float>(profile.value(scale.key)));
     }
     // The one that has the box counts as a whole number there.
     const int linear = profile.value(inertiaScales.front().key).toInt();
     record.linearInertiaScale = Tenths::ToHost(linear);
     ShowValue(m_ui.inertiaScaleSpinBox, linear);
     for (const ProfileField& other : fieldsWithoutBox) {
-        record.*other.field = profile.value(other.key).toFloat();
+        record.*other.field = ProfileNumber<float>(profile.value(other.key));
     }
     Write(Type::All, record);
 }
@@ -158,6 +159,9 @@ void CSoftClothPropertySection::SaveProfile(QSettings& profile) const
 {
     Record record;
     const SoftClothSelection& selection = m_plugin->Selection();
+    if (!m_host) {
+        return;
+    }
     m_host->GetSceneService()->GetSoftClothProperty(selection.object, selection.mesh, selection.material, record);
     ForEachField([&](QLatin1String key, auto box, auto /*field*/, Type /*type*/, auto /*conversion*/) {
         profile.setValue(key, ValueOf(m_ui.*box));

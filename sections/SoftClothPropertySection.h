@@ -14,7 +14,7 @@ namespace MV {
 
 class CMoviraInterface;
 class CPhysicsSoftClothPlugin;
-enum class ESoftClothPropertyType : int;
+enum class ESoftClothPropertyType;
 struct SoftClothPropertyData;
 
 /// The property section: what the cloth is made of and how it is simulated.
@@ -39,7 +39,7 @@ public:
     void EnableUi(bool enable);
 
     /// Shows and writes the values of a profile, which must be positioned in the property group. A missing key counts
-    /// as 0. The host gets the values as they stand there, the boxes bring them into their ranges.
+    /// as 0. The host gets the values as they are in the file, the boxes bring them into their ranges.
     void LoadProfile(QSettings& profile);
     /// Writes what the boxes show into the profile's current group, and what the host holds of the fields that have
     /// no box of their own.

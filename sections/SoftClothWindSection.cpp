@@ -1,15 +1,18 @@
 #include "sections/SoftClothWindSection.h"
 
-#include "plugin/PanelForm.h"
+#include "panel/PanelForm.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "sections/MultiLevelSlider.h"
+#include "sections/ProfileNumbers.h"
 #include "sections/SectionRecord.h"
+#include "sections/SliderKeys.h"
 #include "sections/SoftClothConversions.h"
-#include "sections/WidgetAccess.h"
+#include "ui/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QComboDoubleSpinBox.h>
 #include <BFQtCustomWidgetPluginU/QSpinBoxEx.h>
 
+#include <QBoxLayout>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
@@ -43,6 +46,8 @@ const std::array<QString, 4> diamondPaths{
 
 constexpr int lowestFactor = 0;
 constexpr int highestFactor = 10;
+constexpr int factorPageStep = 2;
+constexpr std::size_t factorLevels = 2;
 constexpr int sliderSize = 30;
 const QColor lineColor(200, 200, 200, 255);
 
@@ -51,7 +56,7 @@ QSharedPointer<const QPixmap> LoadImage(const QString& path)
 {
     auto image = QSharedPointer<const QPixmap>::create(path);
     if (!image->isNull() && qGuiApp->devicePixelRatio() > 1.0) {
-        // The name tells the reader the pixmap's device pixel ratio.
+        // The reader takes the pixmap's device pixel ratio from the name.
         const QPixmap fine(QString(path).replace(QLatin1String(".png"), QLatin1String("@2x.png")));
         if (!fine.isNull()) {
             image = QSharedPointer<const QPixmap>::create(fine);
@@ -76,7 +81,7 @@ void ShowAcceleration(const Axes& boxes, const std::array<float, 3>& acceleratio
     }
 }
 
-/// A single element stands in a profile without a list around it.
+/// A profile holds a single element without a list around it.
 QVariantList ReadList(const QSettings& profile, const QString& key)
 {
     const QVariant value = profile.value(key);
@@ -90,7 +95,7 @@ std::array<float, size> ToFloats(const QVariantList& list)
 {
     std::array<float, size> numbers{};
     for (std::size_t i = 0; i < size; ++i) {
-        numbers[i] = list.value(int(i)).toFloat();
+        numbers[i] = ProfileNumber<float>(list.value(int(i)));
     }
     return numbers;
 }
@@ -170,7 +175,7 @@ BF::Result CSoftClothWindSection::CreateSlider()
         return loaded;
     }
     const auto& [unselected, selected, hover, disabled] = m_diamonds;
-    std::vector<SliderLevel> levels(2);
+    std::vector<SliderLevel> levels(factorLevels);
     levels[0].value = lowestFactor;
     levels[1].value = highestFactor;
     const BF::Result initialised = m_slider->InitSlider(lowestFactor, highestFactor, false, levels, unselected,
@@ -181,6 +186,8 @@ BF::Result CSoftClothWindSection::CreateSlider()
     FitSlider();
     m_slider->valueChanging = [this](std::size_t /*index*/) { ShowFactorTexts(); };
     m_slider->valueChanged = [this](std::size_t /*index*/) { OnChangeRandomFactor(); };
+    m_sliderKeys = new CSliderKeys(m_slider, {factorLevels, lowestFactor, highestFactor, factorPageStep,
+                                              [this] { ShowFactorTexts(); }, [this] { OnChangeRandomFactor(); }});
     ShowFactorTexts();
     return BF::Results::Success;
 }
@@ -209,6 +216,11 @@ void CSoftClothWindSection::FitSlider()
     }
     m_ui.randomFactorWidget->setFocusProxy(m_slider);
     m_ui.randomFactorWidget->adjustSize();
+    // The slider runs from left to right in languages that are written the other way, too, and so do its ends.
+    auto* ends = findChild<QBoxLayout*>(QStringLiteral("qtRandomFactorEndsLayout"));
+    if (ends && isRightToLeft()) {
+        ends->setDirection(QBoxLayout::RightToLeft);
+    }
 }
 
 BF::Result CSoftClothWindSection::UpdateUi()
@@ -233,6 +245,9 @@ std::array<int, 2> CSoftClothWindSection::RandomFactor() const
 
 void CSoftClothWindSection::ShowRandomFactor(int first, int second)
 {
+    if (m_sliderKeys) {
+        m_sliderKeys->Drop();
+    }
     if (m_slider) {
         m_slider->SetLevelValue(0, first);
         m_slider->SetLevelValue(1, second);
@@ -240,7 +255,7 @@ void CSoftClothWindSection::ShowRandomFactor(int first, int second)
     ShowFactorTexts();
 }
 
-/// The handles say where they stand; their order may be reversed by what the host holds.
+/// The labels show where the handles are; values of the host may reverse their order.
 void CSoftClothWindSection::ShowFactorTexts()
 {
     const auto [first, second] = RandomFactor();
@@ -279,7 +294,7 @@ void CSoftClothWindSection::OnChangeRandomFactor()
 
 void CSoftClothWindSection::Write(Type type, const Record& record)
 {
-    WriteRecord(m_plugin->Selection(), *m_host, &CEditService::SetSoftClothWind, type, record);
+    WriteRecord(m_plugin->Selection(), m_host, &CEditService::SetSoftClothWind, type, record);
 }
 
 void CSoftClothWindSection::LoadProfile(QSettings& profile)
@@ -287,7 +302,7 @@ void CSoftClothWindSection::LoadProfile(QSettings& profile)
     Record record;
     record.externalAcceleration = LoadAcceleration(ReadList(profile, externalKey), ExternalBoxes());
     record.randomAcceleration = LoadAcceleration(ReadList(profile, randomKey), RandomBoxes());
-    record.frequency = profile.value(frequencyKey).toFloat();
+    record.frequency = ProfileNumber<float>(profile.value(frequencyKey));
     ShowValue(m_ui.frequencySpinBox, Decimal::ToBox(record.frequency));
     const QVariantList factor = ReadList(profile, factorKey);
     record.randomFactor = ToFloats<2>(factor);

@@ -20,7 +20,8 @@ namespace MV {
 class CMoviraInterface;
 class CMultiLevelSlider;
 class CPhysicsSoftClothPlugin;
-enum class ESoftClothWindType : int;
+class CSliderKeys;
+enum class ESoftClothWindType;
 struct SoftClothWindData;
 
 /// The wind section: a constant and a random acceleration, how often the wind changes, and how much it varies.
@@ -44,7 +45,7 @@ public:
     BF::Result UpdateUi();
 
     /// Shows and writes the values of a profile, which must be positioned in the wind group. A missing key or list
-    /// element counts as 0. The host gets the values as they stand there, the widgets bring them into their ranges.
+    /// element counts as 0. The host gets the values as they are in the file, the widgets bring them into their ranges.
     void LoadProfile(QSettings& profile);
     /// Writes what the widgets show into the profile's current group.
     void SaveProfile(QSettings& profile) const;
@@ -69,7 +70,7 @@ private:
     BF::Result CreateSlider();
     BF::Result LoadDiamonds();
     void FitSlider();
-    /// What the slider's two handles stand at; 0 for both without a slider.
+    /// The values of the slider's two handles; 0 for both without a slider.
     std::array<int, 2> RandomFactor() const;
     void ShowRandomFactor(int first, int second);
     void ShowFactorTexts();
@@ -78,7 +79,8 @@ private:
     CPhysicsSoftClothPlugin* m_plugin;
     CMoviraInterface* m_host = nullptr;
     CSoftClothWindSettingUiComponent m_ui;
-    QPointer<CMultiLevelSlider> m_slider;                    ///< Owned by its container in the form.
+    QPointer<CMultiLevelSlider> m_slider; ///< Owned by its container in the form.
+    QPointer<CSliderKeys> m_sliderKeys;
     std::array<QSharedPointer<const QPixmap>, 4> m_diamonds; ///< Unselected, selected, hover, disabled.
 };
 

@@ -1,64 +1,63 @@
 #pragma once
 
-#include "ui/UiComponent.h"
+#include "ui/FormComponent.h"
 
-class QComboDoubleSpinBox;
-class QFrame;
-class QGroupBox;
-class QHBoxLayout;
-class QLabel;
-class QPushButton;
-class QSpinBoxEx;
-class QVBoxLayout;
+#include <BFQtCustomWidgetPluginU/QComboDoubleSpinBox.h>
+#include <BFQtCustomWidgetPluginU/QSpinBoxEx.h>
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
 
 /// The widgets of the form "SoftClothWindSetting".
-class CSoftClothWindSettingUiComponent : public CUiComponent
+class CSoftClothWindSettingUiComponent : public CFormComponent
 {
 public:
-    void SetupUi(CQtUiLoader& loader) override;
-    QWidget* GetRootWidget() override;
+    QWidget* GetRootWidget() override { return root; }
 
-    QVBoxLayout* verticalLayout_5 = nullptr;
-    QVBoxLayout* verticalLayout_6 = nullptr;
-    QHBoxLayout* horizontalLayout_8 = nullptr;
-    QHBoxLayout* horizontalLayout_7 = nullptr;
-    QHBoxLayout* horizontalLayout_6 = nullptr;
-    QHBoxLayout* horizontalLayout_5 = nullptr;
-    QVBoxLayout* verticalLayout_10 = nullptr;
-    QVBoxLayout* verticalLayout_3 = nullptr;
-    QVBoxLayout* verticalLayout_8 = nullptr;
-    QHBoxLayout* horizontalLayout_3 = nullptr;
-    QHBoxLayout* horizontalLayout_2 = nullptr;
-    QHBoxLayout* horizontalLayout = nullptr;
-    QHBoxLayout* horizontalLayout_4 = nullptr;
-    QVBoxLayout* verticalLayout_9 = nullptr;
-    QVBoxLayout* verticalLayout_2 = nullptr;
-    QVBoxLayout* verticalLayout_7 = nullptr;
-    QVBoxLayout* verticalLayout_4 = nullptr;
-    QVBoxLayout* verticalLayout = nullptr;
-
-    QComboDoubleSpinBox* frequencySpinBox = nullptr;
-    QFrame* line = nullptr;
-    QGroupBox* sectionGroupBox = nullptr;
-    QLabel* label_10 = nullptr;
-    QLabel* label_11 = nullptr;
-    QLabel* label_12 = nullptr;
-    QLabel* label_13 = nullptr;
-    QLabel* label_2 = nullptr;
-    QLabel* label_3 = nullptr;
-    QLabel* label_4 = nullptr;
-    QLabel* label_5 = nullptr;
-    QLabel* label_6 = nullptr;
-    QLabel* label_7 = nullptr;
-    QLabel* label_8 = nullptr;
-    QLabel* label_9 = nullptr;
-    QPushButton* expandButton = nullptr;
-    QSpinBoxEx* externalXSpinBox = nullptr;
-    QSpinBoxEx* externalYSpinBox = nullptr;
-    QSpinBoxEx* externalZSpinBox = nullptr;
-    QSpinBoxEx* randomXSpinBox = nullptr;
-    QSpinBoxEx* randomYSpinBox = nullptr;
-    QSpinBoxEx* randomZSpinBox = nullptr;
-    QWidget* root = nullptr;
-    QWidget* randomFactorWidget = nullptr; ///< Receives the random-factor slider.
+    Found<QVBoxLayout> verticalLayout_5{*this, "verticalLayout_5"};
+    Found<QVBoxLayout> verticalLayout_6{*this, "verticalLayout_6"};
+    Found<QHBoxLayout> horizontalLayout_8{*this, "horizontalLayout_8"};
+    Found<QHBoxLayout> horizontalLayout_7{*this, "horizontalLayout_7"};
+    Found<QHBoxLayout> horizontalLayout_6{*this, "horizontalLayout_6"};
+    Found<QHBoxLayout> horizontalLayout_5{*this, "horizontalLayout_5"};
+    Found<QVBoxLayout> verticalLayout_10{*this, "verticalLayout_10"};
+    Found<QVBoxLayout> verticalLayout_3{*this, "verticalLayout_3"};
+    Found<QVBoxLayout> verticalLayout_8{*this, "verticalLayout_8"};
+    Found<QHBoxLayout> horizontalLayout_3{*this, "horizontalLayout_3"};
+    Found<QHBoxLayout> horizontalLayout_2{*this, "horizontalLayout_2"};
+    Found<QHBoxLayout> horizontalLayout{*this, "horizontalLayout"};
+    Found<QHBoxLayout> horizontalLayout_4{*this, "horizontalLayout_4"};
+    Found<QVBoxLayout> verticalLayout_9{*this, "verticalLayout_9"};
+    Found<QVBoxLayout> verticalLayout_2{*this, "verticalLayout_2"};
+    Found<QVBoxLayout> verticalLayout_7{*this, "verticalLayout_7"};
+    Found<QVBoxLayout> verticalLayout_4{*this, "verticalLayout_4"};
+    Found<QVBoxLayout> verticalLayout{*this, "verticalLayout"};
+    FoundCustom<QComboDoubleSpinBox> frequencySpinBox{*this, "qtFrequencyCombodoublespinbox"};
+    Found<QFrame> line{*this, "line"};
+    Found<QGroupBox> sectionGroupBox{*this, "qtSectionGroupBox"};
+    Found<QLabel> label_10{*this, "label_10"};
+    Found<QLabel> label_11{*this, "label_11"};
+    Found<QLabel> label_12{*this, "label_12"};
+    Found<QLabel> label_13{*this, "label_13"};
+    Found<QLabel> label_2{*this, "label_2"};
+    Found<QLabel> label_3{*this, "label_3"};
+    Found<QLabel> label_4{*this, "label_4"};
+    Found<QLabel> label_5{*this, "label_5"};
+    Found<QLabel> label_6{*this, "label_6"};
+    Found<QLabel> label_7{*this, "label_7"};
+    Found<QLabel> label_8{*this, "label_8"};
+    Found<QLabel> label_9{*this, "label_9"};
+    Found<QPushButton> expandButton{*this, "qtExpandPushButton"};
+    FoundCustom<QSpinBoxEx> externalXSpinBox{*this, "qtExternalXEXSpinBox"};
+    FoundCustom<QSpinBoxEx> externalYSpinBox{*this, "qtExternalYEXSpinBox"};
+    FoundCustom<QSpinBoxEx> externalZSpinBox{*this, "qtExternalZEXSpinBox"};
+    FoundCustom<QSpinBoxEx> randomXSpinBox{*this, "qtRandomXEXSpinBox"};
+    FoundCustom<QSpinBoxEx> randomYSpinBox{*this, "qtRandomYEXSpinBox"};
+    FoundCustom<QSpinBoxEx> randomZSpinBox{*this, "qtRandomZEXSpinBox"};
+    Found<QWidget> root{*this, "SoftClothWindSetting"};
+    Found<QWidget> randomFactorWidget{*this, "qtRandomFactorWidget"}; ///< Receives the random-factor slider.
 };

@@ -8,7 +8,7 @@
 /// Finds the objects of a loaded form by name and type.
 ///
 /// The search starts at a root, the form's top widget, and may go on in a second root, usually the widget that the
-/// form was built into. Names that were asked for in vain are collected, never reported.
+/// form was built into. Names that were not found are collected, never reported.
 class CQtUiLoader
 {
 public:
@@ -16,18 +16,18 @@ public:
     /// A loader that knows its roots. A null \p root is the same as none.
     explicit CQtUiLoader(QWidget* root, QWidget* secondRoot = nullptr);
 
-    /// Sets the roots of all later look-ups; a null \p root takes both away.
+    /// Sets the roots of all later look-ups; a null \p root clears both.
     void SetRoot(QWidget* root, QWidget* secondRoot = nullptr);
 
     bool HasRoot() const { return m_hasRoot; }
     QWidget* Root() const { return m_root; }
     QWidget* SecondRoot() const { return m_secondRoot; }
 
-    /// The names that no look-up could find, in the order of asking; a name asked for twice stands twice.
+    /// The names that no look-up could find, in the order of the look-ups; a name looked up twice is listed twice.
     const QStringList& UnresolvedNames() const { return m_unresolvedNames; }
 
     /// The object of type \p T called \p name: the root itself, else a descendant of the root, else one of the
-    /// second root. Null when there is none, which records the name, and null when the root bears the name but has
+    /// second root. Null when there is none, which records the name, and null when the root has the name but is of
     /// another type, which records nothing.
     template <class T>
     T* Find(const QString& name)
@@ -50,7 +50,7 @@ public:
     }
 
     /// A widget of a library that is found as a plain QWidget first and cast afterwards: the name is recorded only
-    /// when no widget bears it, the result is null as well when the widget is of another class.
+    /// when no widget has it, the result is null as well when the widget is of another class.
     template <class T>
     T* FindCustom(const QString& name)
     {

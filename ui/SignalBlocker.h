@@ -10,7 +10,7 @@
 /// Keeps widgets silent while they are set from host values.
 ///
 /// Every added widget's signals are blocked at once; the destructor gives each widget its earlier state back, in
-/// reverse order of addition. A null widget is passed over, and so is one that was destroyed in between.
+/// reverse order of addition. A null widget is skipped, and so is one that was destroyed in between.
 class CSignalBlocker
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "host/images/ImageFormat.h"
 #include "host/images/TgaReader.h"
+#include "host/scene/Limits.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -16,27 +17,35 @@ namespace Host {
 
 namespace {
 
-QString Tr(const char* text)
+/// Where the reasons are translated.
+class ImageText
 {
-    return QCoreApplication::translate("ImageDecode", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImageText)
+};
 
 /// Why there is no use in decoding; a null string when there is.
 QString ReasonToRefuse(const ImageHeader& header)
 {
     if (header.format == ImageFormat::None) {
-        return Tr("it is no JPEG, BMP, GIF, PNG or TGA image");
+        return ImageText::tr("it is no JPEG, BMP, GIF, PNG or TGA image");
     }
-    if (header.size.width() > ImageLimits::side || header.size.height() > ImageLimits::side) {
-        return Tr("it has %1 x %2 pixels, and more than %3 on a side are too many")
-            .arg(header.size.width())
-            .arg(header.size.height())
-            .arg(ImageLimits::side);
+    const QSize& size = header.size;
+    if (size.width() > Limits::imageSide || size.height() > Limits::imageSide) {
+        return ImageText::tr("it has %1 x %2 pixels, and more than %3 on a side are too many")
+            .arg(size.width())
+            .arg(size.height())
+            .arg(Limits::imageSide);
+    }
+    if (!size.isEmpty() && qint64(size.width()) * size.height() > Limits::imagePixels) {
+        return ImageText::tr("it has %1 x %2 pixels, and more than %3 in all are too many")
+            .arg(size.width())
+            .arg(size.height())
+            .arg(Limits::imagePixels);
     }
     if (!header.isComplete) {
-        return Tr("it is truncated");
+        return ImageText::tr("it is truncated");
     }
-    return header.size.isEmpty() ? Tr("it is damaged") : QString();
+    return header.size.isEmpty() ? ImageText::tr("it is damaged") : QString();
 }
 
 /// The few formats that the host works with. Samples of 16 bits lose their lower halves.
@@ -71,7 +80,7 @@ QImage ReadWithQt(const QByteArray& bytes, ImageFormat format)
 DecodedImage DecodeImage(const QByteArray& bytes)
 {
     if (bytes.isEmpty()) {
-        return {{}, Tr("it is empty")};
+        return {{}, ImageText::tr("it is empty")};
     }
     const ImageHeader header = ReadImageHeader(bytes);
     const QString refusal = ReasonToRefuse(header);
@@ -80,7 +89,7 @@ DecodedImage DecodeImage(const QByteArray& bytes)
     }
     QImage image = header.format == ImageFormat::Tga ? ReadTga(bytes) : ReadWithQt(bytes, header.format);
     image = ToWorkingFormat(std::move(image));
-    return image.isNull() ? DecodedImage{{}, Tr("it is damaged")} : DecodedImage{std::move(image), {}};
+    return image.isNull() ? DecodedImage{{}, ImageText::tr("it is damaged")} : DecodedImage{std::move(image), {}};
 }
 
 QByteArray ReadImageFile(const QString& path, QString& error)
@@ -89,11 +98,11 @@ QByteArray ReadImageFile(const QString& path, QString& error)
     const QFileInfo info(path);
     QFile file(path);
     if (!info.exists()) {
-        error = Tr("there is no such file");
+        error = ImageText::tr("there is no such file");
     } else if (!info.isFile()) {
-        error = Tr("it is not a file");
-    } else if (info.size() > ImageLimits::fileSize) {
-        error = Tr("the file is too large");
+        error = ImageText::tr("it is not a file");
+    } else if (info.size() > Limits::imageFileSize) {
+        error = ImageText::tr("the file is too large");
     } else if (!file.open(QIODevice::ReadOnly)) {
         error = file.errorString();
     }
@@ -108,7 +117,7 @@ QByteArray ReadImageFile(const QString& path, QString& error)
         }
         return bytes;
     } catch (const std::bad_alloc&) {
-        error = Tr("there is not enough memory");
+        error = ImageText::tr("there is not enough memory");
         return {};
     }
 }
@@ -122,7 +131,7 @@ DecodedImage DecodeImageFile(const QString& path)
 
 QString UnreadableImageText(const QString& path, const QString& error)
 {
-    return Tr("The image \"%1\" could not be read: %2.").arg(QDir::toNativeSeparators(path), error);
+    return ImageText::tr("The image \"%1\" could not be read: %2.").arg(QDir::toNativeSeparators(path), error);
 }
 
 } // namespace Host

@@ -6,12 +6,6 @@
 
 namespace Host {
 
-/// Largest image that is decoded; a larger one is refused before any memory is taken for it.
-namespace ImageLimits {
-inline constexpr int side = 16384;                  ///< Width and height, in pixels.
-inline constexpr qint64 fileSize = qint64{1} << 30; ///< Encoded, in bytes.
-} // namespace ImageLimits
-
 /// What decoding came to.
 struct DecodedImage
 {
@@ -20,6 +14,7 @@ struct DecodedImage
 };
 
 /// Decodes a JPEG, BMP, GIF, PNG or TGA image; of an animation the first picture. The content decides what it is.
+/// One that is larger than Limits allow is refused before any memory is taken for it.
 /// Needs no GUI thread.
 DecodedImage DecodeImage(const QByteArray& bytes);
 

@@ -131,7 +131,7 @@ qint64 GifTableSize(quint8 flags)
     return (flags & 0x80) != 0 ? 3 * (qint64(2) << (flags & 0x07)) : 0;
 }
 
-/// The place behind a row of sub-blocks, which an empty one ends; -1 when the end is missing.
+/// The place behind a sequence of sub-blocks, which an empty one ends; -1 when the end is missing.
 qint64 EndOfSubBlocks(const Bytes& bytes, qint64 position)
 {
     while (bytes.Has(position)) {
@@ -149,7 +149,9 @@ ImageHeader GifHeader(const Bytes& bytes)
 {
     constexpr quint8 extension = 0x21;
     constexpr quint8 picture = 0x2c;
-    ImageHeader header{ImageFormat::Gif, SizeOf(bytes.Little<quint16>(6), bytes.Little<quint16>(8)), false};
+    const int screenWidth = bytes.Little<quint16>(6);
+    const int screenHeight = bytes.Little<quint16>(8);
+    ImageHeader header{ImageFormat::Gif, SizeOf(screenWidth, screenHeight), false};
     qint64 position = 13 + GifTableSize(bytes.Byte(10));
     while (position >= 0 && bytes.Byte(position) == extension) {
         position = EndOfSubBlocks(bytes, position + 2);
@@ -157,10 +159,10 @@ ImageHeader GifHeader(const Bytes& bytes)
     if (position < 0 || bytes.Byte(position) != picture) {
         return header;
     }
-    // Some write a screen that is smaller than the picture on it.
+    // Some write a screen that is smaller than the picture on it, in one direction or in both.
     const int right = bytes.Little<quint16>(position + 1) + bytes.Little<quint16>(position + 5);
     const int bottom = bytes.Little<quint16>(position + 3) + bytes.Little<quint16>(position + 7);
-    header.size = header.size.expandedTo({right, bottom});
+    header.size = SizeOf(std::max(screenWidth, right), std::max(screenHeight, bottom));
     const qint64 data = position + 10 + GifTableSize(bytes.Byte(position + 9)) + 1;
     header.isComplete = bytes.Has(data) && EndOfSubBlocks(bytes, data) >= 0;
     return header;
@@ -178,8 +180,11 @@ ImageHeader BmpHeader(const Bytes& bytes)
     const qint64 depth = bytes.Little<quint16>(isOld ? 24 : 28);
     const quint32 compression = isOld ? 0 : bytes.Little<quint32>(30);
     const bool isRunLength = compression == runLength8 || compression == runLength4;
+    if (width <= 0 || height <= 0) {
+        return {ImageFormat::Bmp, {}, false};
+    }
     const qint64 lineSize = (width * depth + 31) / 32 * 4;
-    const qint64 tooMuch = bytes.Size() + 1; // no product of larger numbers is needed to tell that data are missing
+    const qint64 tooMuch = bytes.Size() + 1; // no product of larger numbers is needed to know that data are missing
     const qint64 dataSize =
         isRunLength ? bytes.Little<quint32>(34) : std::min(lineSize, tooMuch) * std::min(height, tooMuch);
     const bool hasHeader = bytes.Has(0, fileHeaderSize + oldHeaderSize);

@@ -47,7 +47,7 @@ public:
     /// \param error  empty, or why the file cannot be read
     QByteArray ReadForEmbedding(const QString& path, QString& error);
 
-    /// Lets a file be decoded anew, even when it looks unchanged.
+    /// Lets a file be decoded again, even when it looks unchanged.
     void ForgetFile(const QString& path);
 
     /// How many images were decoded so far.

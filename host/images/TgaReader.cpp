@@ -148,7 +148,7 @@ private:
     const char* m_repeated = nullptr;
 };
 
-/// The colours that indices stand for; empty when the data end before them.
+/// The colours of indices; empty when the data end before them.
 std::vector<QRgb> ColorMap(const QByteArray& bytes, const TgaHeader& header)
 {
     if (header.PixelsAt() > bytes.size()) {

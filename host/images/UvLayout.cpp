@@ -4,6 +4,7 @@
 
 #include <QLineF>
 #include <QPainter>
+#include <QPointF>
 #include <QVector>
 
 #include <algorithm>
@@ -19,6 +20,8 @@ constexpr int smallestSide = 1024;
 constexpr int largestSide = 4096;
 /// UVs further out than this are a mistake of the model; they are left out.
 constexpr float farthest = 64.0F;
+/// So many times all lines together are continued in another tile. More would only be waited for: the picture is full.
+constexpr std::size_t mostFurtherPieces = 10000;
 
 using Edge = std::pair<quint32, quint32>;
 
@@ -43,26 +46,59 @@ bool IsNear(const QVector2D& uv)
     return std::abs(uv.x()) <= farthest && std::abs(uv.y()) <= farthest;
 }
 
-/// Adds the line between two UVs, and its repetitions that show in the unit square.
-void AddLines(QVector<QLineF>& lines, const QVector2D& from, const QVector2D& to, const QSize& size)
+/// Adds where, from 0 at its beginning to 1 at its end, a line from \p from to \p to crosses whole numbers.
+void AddCrossings(std::vector<double>& crossings, double from, double to)
 {
-    const auto tile = [](float coordinate) { return int(std::floor(coordinate)); };
-    // What ends on the border of a tile does not reach into the next one.
-    const auto lastTile = [](float low, float high) {
-        return std::max(int(std::floor(low)), int(std::ceil(high)) - 1);
-    };
-    const auto [left, right] = std::minmax({from.x(), to.x()});
-    const auto [low, high] = std::minmax({from.y(), to.y()});
-    for (int column = tile(left); column <= lastTile(left, right); ++column) {
-        for (int row = tile(low); row <= lastTile(low, high); ++row) {
-            const auto place = [&](const QVector2D& uv) {
-                return QPointF(double(uv.x() - float(column)) * size.width(),
-                               (1.0 - double(uv.y() - float(row))) * size.height());
-            };
-            lines.append({place(from), place(to)});
-        }
+    const auto [low, high] = std::minmax(from, to);
+    for (double border = std::floor(low) + 1.0; border < high; ++border) {
+        crossings.push_back((border - from) / (to - from));
     }
 }
+
+/// The lines of a layout, each within the unit square.
+class Lines
+{
+public:
+    explicit Lines(const QSize& size)
+        : m_size(size)
+    {
+    }
+
+    /// Adds the line between two UVs in pieces, one for each tile that it passes through, where the repeated texture
+    /// shows them. Once there are too many further pieces, lines only show in the tile in which they begin.
+    void Add(const QVector2D& from, const QVector2D& to)
+    {
+        const QPointF begin = from.toPointF();
+        const QPointF way = to.toPointF() - begin;
+        m_ends.assign({0.0, 1.0});
+        AddCrossings(m_ends, from.x(), to.x());
+        AddCrossings(m_ends, from.y(), to.y());
+        std::sort(m_ends.begin(), m_ends.end());
+        const std::size_t pieces = std::min(m_ends.size() - 1, m_furtherPieces + 1);
+        m_furtherPieces -= pieces - 1;
+        for (std::size_t i = 0; i < pieces; ++i) {
+            AddPiece(begin + way * m_ends[i], begin + way * m_ends[i + 1]);
+        }
+    }
+
+    const QVector<QLineF>& All() const { return m_lines; }
+
+private:
+    void AddPiece(const QPointF& from, const QPointF& to)
+    {
+        const QPointF middle = (from + to) / 2.0;
+        const QPointF tile(std::floor(middle.x()), std::floor(middle.y()));
+        const auto place = [&](const QPointF& uv) {
+            return QPointF((uv.x() - tile.x()) * m_size.width(), (1.0 - (uv.y() - tile.y())) * m_size.height());
+        };
+        m_lines.append({place(from), place(to)});
+    }
+
+    QSize m_size;
+    QVector<QLineF> m_lines;
+    std::vector<double> m_ends; ///< Of the pieces of one line.
+    std::size_t m_furtherPieces = mostFurtherPieces;
+};
 
 /// The size at which a layout over a texture of \p size is drawn.
 QSize LayoutSize(const QSize& size)
@@ -79,12 +115,12 @@ QImage DrawUvLayout(const QImage& texture, const std::vector<SlotOfMesh>& slotsO
     const QSize size = LayoutSize(texture.size());
     QImage layout = texture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    QVector<QLineF> lines;
+    Lines lines(size);
     for (const SlotOfMesh& each : slotsOfMeshes) {
         const std::vector<QVector2D>& uvs = each.mesh->uvs;
         for (const Edge& edge : EdgesOf(*each.slot)) {
             if (edge.second < uvs.size() && IsNear(uvs[edge.first]) && IsNear(uvs[edge.second])) {
-                AddLines(lines, uvs[edge.first], uvs[edge.second], size);
+                lines.Add(uvs[edge.first], uvs[edge.second]);
             }
         }
     }
@@ -93,7 +129,7 @@ QImage DrawUvLayout(const QImage& texture, const std::vector<SlotOfMesh>& slotsO
     // Bright on a dark line: seen on light and dark textures alike.
     for (const QPen& pen : {QPen(QColor(0, 0, 0, 160), 2.5), QPen(QColor(0, 255, 200), 1.0)}) {
         painter.setPen(pen);
-        painter.drawLines(lines);
+        painter.drawLines(lines.All());
     }
     return layout;
 }

@@ -17,8 +17,9 @@ struct SlotOfMesh
 };
 
 /// Draws the edges of the slots' triangles, where their UVs put them, over \p texture. Triangles outside the unit
-/// square are drawn where the repeated texture shows them. A small texture is enlarged and a large one reduced, so that
-/// the lines can be told apart and an image editor can open the result.
+/// square are drawn where the repeated texture shows them, up to 10,000 crossings from one repetition into the next;
+/// what has UVs further out than 64 is left out. A small texture is enlarged and a large one reduced, so that
+/// the lines can be distinguished and an image editor can open the result.
 QImage DrawUvLayout(const QImage& texture, const std::vector<SlotOfMesh>& slotsOfMeshes);
 
 } // namespace Host

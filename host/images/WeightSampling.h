@@ -10,7 +10,7 @@ namespace Host {
 struct MaterialSlot;
 struct Mesh;
 
-/// The gray of a pixel of a decoded image, 0 to 255; transparency takes its share away.
+/// The gray of a pixel of a decoded image, 0 to 255; transparency makes it darker by its share.
 inline quint8 GrayOfPixel(const QImage& image, int x, int y)
 {
     const uchar* const line = image.constScanLine(y);

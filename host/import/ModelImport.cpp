@@ -2,7 +2,9 @@
 
 #include "host/import/ModelFiles.h"
 #include "host/import/SceneConversion.h"
+#include "host/scene/Limits.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -25,15 +27,13 @@ namespace Host {
 
 namespace {
 
-constexpr qint64 maxFileSize = qint64{1} << 30;
-
 // Shares of the whole at which a stage ends.
 constexpr double readEnd = 0.6;
 constexpr double processEnd = 0.9;
 
 /// What Assimp does to the scene once it is read, one by one so that a cancel is heard in between.
 constexpr std::array<unsigned, 4> processSteps{
-    // What tells vertices apart but is not taken over would keep them from being joined.
+    // What distinguishes vertices but is not imported would keep them from being joined.
     aiProcess_RemoveComponent,
     aiProcess_Triangulate,
     aiProcess_SortByPType,
@@ -100,6 +100,12 @@ private:
     ProgressReport& m_report;
 };
 
+/// Where the reasons are translated.
+class ModelText
+{
+    Q_DECLARE_TR_FUNCTIONS(ModelText)
+};
+
 ImportResult Cancelled()
 {
     ImportResult result;
@@ -118,7 +124,14 @@ ImportResult NotReadable(const QString& path, const QString& reason)
 {
     ImportResult result;
     result.error =
-        QStringLiteral("The model file \"%1\" could not be read: %2").arg(QDir::toNativeSeparators(path), reason);
+        ModelText::tr("The model file \"%1\" could not be read: %2").arg(QDir::toNativeSeparators(path), reason);
+    return result;
+}
+
+ImportResult TooLarge(const QString& path, const QString& reason)
+{
+    ImportResult result;
+    result.error = ModelText::tr("The model in \"%1\" is too large: %2.").arg(QDir::toNativeSeparators(path), reason);
     return result;
 }
 
@@ -126,16 +139,16 @@ ImportResult NotReadable(const QString& path, const QString& reason)
 QString ReasonToRefuse(const QFileInfo& file)
 {
     if (!file.exists()) {
-        return QStringLiteral("There is no model file \"%1\".");
+        return ModelText::tr("There is no model file \"%1\".");
     }
     if (!file.isFile()) {
-        return QStringLiteral("\"%1\" is not a file.");
+        return ModelText::tr("\"%1\" is not a file.");
     }
     if (file.size() == 0) {
-        return QStringLiteral("The model file \"%1\" is empty.");
+        return ModelText::tr("The model file \"%1\" is empty.");
     }
-    if (file.size() > maxFileSize) {
-        return QStringLiteral("The model file \"%1\" is too large.");
+    if (file.size() > Limits::modelFileSize) {
+        return ModelText::tr("The model file \"%1\" is too large.");
     }
     return {};
 }
@@ -150,7 +163,18 @@ QByteArray NativePath(const QString& path)
 #endif
 }
 
-ImportResult Import(const QFileInfo& file, ProgressReport& report)
+/// How many centimetres a unit of the file has; none when the user would not say.
+std::optional<double> UnitOf(const aiScene& scene, const QFileInfo& file, const UnitChoice& chooseUnit)
+{
+    if (const std::optional<double> unit = UnitOfFile(scene, file.suffix().toLower())) {
+        return unit;
+    }
+    const double size = LargestSide(scene);
+    const std::optional<LengthUnit> chosen = chooseUnit ? chooseUnit(size) : GuessUnit(size);
+    return chosen ? std::make_optional(chosen->centimetres) : std::nullopt;
+}
+
+ImportResult Import(const QFileInfo& file, ProgressReport& report, const UnitChoice& chooseUnit)
 {
     const QString path = file.filePath();
     Assimp::Importer importer;
@@ -168,13 +192,14 @@ ImportResult Import(const QFileInfo& file, ProgressReport& report)
         return NotReadable(path, QString::fromUtf8(importer.GetErrorString()));
     }
     if (HasBrokenFaces(*scene)) {
-        return NotReadable(path, QStringLiteral("it is damaged."));
+        return NotReadable(path, ModelText::tr("it is damaged."));
     }
     if (!HasSurfaces(*scene)) {
-        return Failed(QStringLiteral("The model file \"%1\" holds no surfaces."), path);
+        return Failed(ModelText::tr("The model file \"%1\" holds no surfaces."), path);
     }
-    if (IsTooLarge(*scene)) {
-        return Failed(QStringLiteral("The model in \"%1\" is too large."), path);
+    const QString tooMuch = SizeOf(*scene).ReasonToRefuse();
+    if (!tooMuch.isNull()) {
+        return TooLarge(path, tooMuch);
     }
     for (std::size_t i = 0; i < processSteps.size(); ++i) {
         scene = importer.ApplyPostProcessing(processSteps[i]);
@@ -185,17 +210,24 @@ ImportResult Import(const QFileInfo& file, ProgressReport& report)
             return Cancelled();
         }
     }
-    if (IsTooLarge(*scene)) {
-        return Failed(QStringLiteral("The model in \"%1\" is too large."), path);
+    const QString tooMuchNow = SizeOf(*scene).ReasonToRefuse();
+    if (!tooMuchNow.isNull()) {
+        return TooLarge(path, tooMuchNow);
     }
+    const std::optional<double> unit = UnitOf(*scene, file, chooseUnit);
+    if (!unit) {
+        return Cancelled();
+    }
+    QMatrix4x4 placement = Uprighting(*scene);
+    placement.scale(static_cast<float>(*unit));
     ImportResult result;
-    result.object = ToObject(*scene, file.absoluteDir(),
+    result.object = ToObject(*scene, placement, file.absoluteDir(),
                              [&report](double done) { return report.Report(processEnd + (1.0 - processEnd) * done); });
     if (!result.object || !report.Report(1.0)) {
         return Cancelled();
     }
     if (result.object->meshes.empty()) {
-        return Failed(QStringLiteral("The model file \"%1\" holds no surfaces."), path);
+        return Failed(ModelText::tr("The model file \"%1\" holds no surfaces."), path);
     }
     result.object->name = file.completeBaseName();
     return result;
@@ -203,7 +235,7 @@ ImportResult Import(const QFileInfo& file, ProgressReport& report)
 
 } // namespace
 
-ImportResult ImportModel(const QString& path, const ImportProgress& progress)
+ImportResult ImportModel(const QString& path, const ImportProgress& progress, const UnitChoice& chooseUnit)
 {
     const QFileInfo file(path);
     const QString refusal = ReasonToRefuse(file);
@@ -215,7 +247,7 @@ ImportResult ImportModel(const QString& path, const ImportProgress& progress)
         return Cancelled();
     }
     try {
-        return Import(file, report);
+        return Import(file, report, chooseUnit);
     } catch (const std::exception& error) {
         return NotReadable(path, QString::fromLocal8Bit(error.what()));
     }

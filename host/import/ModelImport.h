@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/import/Units.h"
 #include "host/scene/Entities.h"
 
 #include <QString>
@@ -22,8 +23,9 @@ struct ImportResult
 
 /// Reads a model file (glTF 2, OBJ, FBX, Collada, PLY and what else Assimp reads safely, see ImportableSuffixes()).
 /// Mesh names, material names, UVs, diffuse and opacity textures, linked or embedded, come along; triangles only,
-/// transforms baked in.
-ImportResult ImportModel(const QString& path, const ImportProgress& progress = {});
+/// transforms baked in, y upwards, in centimetres.
+/// \param chooseUnit  is asked when the file does not name its unit; without it the unit is guessed from the size
+ImportResult ImportModel(const QString& path, const ImportProgress& progress = {}, const UnitChoice& chooseUnit = {});
 
 /// Suffixes that ImportModel() can read, lower case without the leading dot, sorted.
 QStringList ImportableSuffixes();

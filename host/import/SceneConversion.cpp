@@ -2,20 +2,18 @@
 
 #include "host/import/TextureImport.h"
 
-#include <QMatrix4x4>
-
 #include <assimp/material.h>
 #include <assimp/scene.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <limits>
 #include <tuple>
 
 namespace Host {
 
 namespace {
-
-constexpr std::size_t maxElements = 16'000'000;
 
 /// A node that has meshes, and where it puts them.
 struct MeshNode
@@ -175,11 +173,11 @@ QString NameOf(const MeshNode& meshNode, const aiScene& scene)
     return QString::fromUtf8(name.C_Str());
 }
 
-Mesh ToMesh(const MeshNode& meshNode, const aiScene& scene)
+Mesh ToMesh(const MeshNode& meshNode, const aiScene& scene, const QMatrix4x4& placement)
 {
     Mesh mesh;
     mesh.name = NameOf(meshNode, scene);
-    const QMatrix4x4 transform = ToMatrix(meshNode.transform);
+    const QMatrix4x4 transform = placement * ToMatrix(meshNode.transform);
     for (unsigned i = 0; i < meshNode.node->mNumMeshes; ++i) {
         const aiMesh& part = *scene.mMeshes[meshNode.node->mMeshes[i]];
         const std::size_t base = mesh.positions.size();
@@ -272,21 +270,68 @@ bool HasSurfaces(const aiScene& scene)
                        [](const aiMesh* mesh) { return (mesh->mPrimitiveTypes & surfaces) != 0; });
 }
 
-bool IsTooLarge(const aiScene& scene)
+SceneSize SizeOf(const aiScene& scene)
 {
-    std::size_t vertices = 0;
-    std::size_t faces = 0;
+    SceneSize size;
+    size.materials = scene.mNumMaterials;
+    for (const MeshNode& meshNode : MeshNodesOf(scene)) {
+        ++size.meshes;
+        for (unsigned i = 0; i < meshNode.node->mNumMeshes; ++i) {
+            const aiMesh& part = *scene.mMeshes[meshNode.node->mMeshes[i]];
+            size.vertices += part.mNumVertices;
+            size.triangles += part.mNumFaces;
+        }
+    }
+    return size;
+}
+
+double LargestSide(const aiScene& scene)
+{
+    aiVector3D low(std::numeric_limits<ai_real>::max());
+    aiVector3D high(std::numeric_limits<ai_real>::lowest());
     for (const MeshNode& meshNode : MeshNodesOf(scene)) {
         for (unsigned i = 0; i < meshNode.node->mNumMeshes; ++i) {
             const aiMesh& part = *scene.mMeshes[meshNode.node->mMeshes[i]];
-            vertices += part.mNumVertices;
-            faces += part.mNumFaces;
+            for (unsigned k = 0; k < part.mNumVertices; ++k) {
+                const aiVector3D place = meshNode.transform * part.mVertices[k];
+                for (unsigned axis = 0; axis < 3; ++axis) {
+                    if (std::isfinite(place[axis])) {
+                        low[axis] = std::min(low[axis], place[axis]);
+                        high[axis] = std::max(high[axis], place[axis]);
+                    }
+                }
+            }
         }
     }
-    return std::max(vertices, faces) > maxElements;
+    const aiVector3D sides = high - low;
+    const double largest = std::max({sides.x, sides.y, sides.z});
+    return std::isfinite(largest) ? std::max(largest, 0.0) : 0.0;
 }
 
-std::optional<Object> ToObject(const aiScene& scene, const QDir& folder, const std::function<bool(double)>& goOn)
+QMatrix4x4 Uprighting(const aiScene& scene)
+{
+    // A row of the rotation for each of our axes: right, up, front.
+    constexpr std::array<std::pair<const char*, const char*>, 3> settings{
+        {{"CoordAxis", "CoordAxisSign"}, {"UpAxis", "UpAxisSign"}, {"FrontAxis", "FrontAxisSign"}}};
+    QMatrix4x4 rotation;
+    rotation.fill(0.0F);
+    rotation(3, 3) = 1.0F;
+    for (int row = 0; row < 3; ++row) {
+        int32_t axis = 0;
+        int32_t sign = 1;
+        const auto [axisName, signName] = settings[static_cast<std::size_t>(row)];
+        if (!scene.mMetaData || !scene.mMetaData->Get(axisName, axis) || !scene.mMetaData->Get(signName, sign) ||
+            axis < 0 || axis > 2) {
+            return {};
+        }
+        rotation(row, axis) = sign < 0 ? -1.0F : 1.0F;
+    }
+    // Settings that name an axis twice, or that would turn the model inside out, are no settings.
+    return rotation.determinant() > 0.5 ? rotation : QMatrix4x4();
+}
+
+std::optional<Object> ToObject(const aiScene& scene, const QMatrix4x4& placement, const QDir& folder,
+                               const std::function<bool(double)>& goOn)
 {
     Object object;
     const std::vector<MeshNode> meshNodes = MeshNodesOf(scene);
@@ -294,7 +339,7 @@ std::optional<Object> ToObject(const aiScene& scene, const QDir& folder, const s
         if (!goOn(static_cast<double>(i) / static_cast<double>(meshNodes.size()))) {
             return std::nullopt;
         }
-        Mesh mesh = ToMesh(meshNodes[i], scene);
+        Mesh mesh = ToMesh(meshNodes[i], scene, placement);
         if (!mesh.materialSlots.empty()) {
             object.meshes.push_back(std::move(mesh));
         }

@@ -1,5 +1,7 @@
 #include "host/import/TextureImport.h"
 
+#include "host/scene/Limits.h"
+
 #include <QBuffer>
 #include <QFileInfo>
 #include <QImage>
@@ -13,9 +15,6 @@
 namespace Host {
 
 namespace {
-
-/// Largest width or height of raw texels that are taken over.
-constexpr unsigned maxRawSize = 16384;
 
 bool IsAbsolute(const QString& path)
 {
@@ -48,7 +47,8 @@ QString ExistingFile(const QString& path)
 
 QByteArray EncodeTexels(const aiTexture& texture)
 {
-    if (texture.mWidth > maxRawSize || texture.mHeight > maxRawSize) {
+    if (texture.mWidth > Limits::imageSide || texture.mHeight > Limits::imageSide ||
+        qint64(texture.mWidth) * texture.mHeight > Limits::imagePixels) {
         return {};
     }
     QImage image(static_cast<int>(texture.mWidth), static_cast<int>(texture.mHeight), QImage::Format_ARGB32);

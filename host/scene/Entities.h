@@ -68,7 +68,7 @@ struct ObjectState
     QMap<QString, QStringList> ignoredMaterials{};
 };
 
-/// What the host tells of an object besides its values. Set through the host controls, not undoable.
+/// What the host reports of an object other than its values. Set through the host controls, not undoable.
 struct ObjectTraits
 {
     quint32 type = 1; ///< The host's object-type code.

@@ -1,5 +1,6 @@
 #include "host/scene/FileStates.h"
 
+#include "host/scene/SceneText.h"
 #include "host/scene/StateJson.h"
 
 #include <QFileInfo>
@@ -35,7 +36,7 @@ QMap<QString, QStringList> IgnoredFromJson(const JsonNode& node)
         }
         const QString mesh = entry["mesh"].ToText();
         if (ignored.contains(mesh)) {
-            entry["mesh"].Refuse(QStringLiteral("is named a second time"));
+            entry["mesh"].Refuse(SceneText::tr("is named a second time"));
         }
         ignored.insert(mesh, names);
     }
@@ -132,7 +133,7 @@ StateReader::StateReader(const JsonNode& root, int version, const QDir& folder)
     for (const JsonNode& image : root["images"].Items()) {
         m_images.push_back(image.ToBytes());
         if (m_images.back().isEmpty()) {
-            image.Refuse(QStringLiteral("is empty"));
+            image.Refuse(SceneText::tr("is empty"));
         }
     }
 }
@@ -145,7 +146,7 @@ WeightImage StateReader::ReadWeight(const JsonNode& node) const
     weight.image.filePath = LinkedFileFromJson(node, m_folder);
     if (node.Has("image")) {
         if (!weight.image.filePath.isEmpty()) {
-            node.Refuse(QStringLiteral("is both linked and embedded"));
+            node.Refuse(SceneText::tr("is both linked and embedded"));
         }
         const qint64 last = static_cast<qint64>(m_images.size()) - 1;
         weight.image.embedded = m_images[static_cast<std::size_t>(node["image"].ToInteger(0, last))];

@@ -1,5 +1,7 @@
 #include "host/scene/GeometryJson.h"
 
+#include "host/scene/SceneText.h"
+
 #include <QCryptographicHash>
 #include <QtEndian>
 
@@ -39,14 +41,14 @@ QByteArray Unpack(const JsonNode& node, qint64 size)
     const QByteArray packed = node["data"].ToBytes();
     // Checked first, because qUncompress() complains about damaged data in public.
     if (CheckSum(packed) != node["sha1"].ToBytes()) {
-        node.Refuse(QStringLiteral("is damaged: its check sum does not fit"));
+        node.Refuse(SceneText::tr("is damaged: its check sum does not fit"));
     }
     if (ClaimedSize(packed) != size || size > packed.size() * maxCompression) {
-        node.Refuse(QStringLiteral("does not hold as many items as it says"));
+        node.Refuse(SceneText::tr("does not hold as many items as it says"));
     }
     const QByteArray words = size > 0 ? qUncompress(packed) : QByteArray();
     if (words.size() != size) {
-        node.Refuse(QStringLiteral("cannot be unpacked"));
+        node.Refuse(SceneText::tr("cannot be unpacked"));
     }
     return words;
 }
@@ -66,6 +68,11 @@ QJsonObject ArrayToJson(const std::vector<Item>& items)
     return {{QStringLiteral("count"), static_cast<double>(items.size())},
             {QStringLiteral("data"), QString::fromLatin1(packed.toBase64())},
             {QStringLiteral("sha1"), QString::fromLatin1(CheckSum(packed).toBase64())}};
+}
+
+std::size_t CountOfArray(const JsonNode& node)
+{
+    return static_cast<std::size_t>(node["count"].ToInteger(0, maxBytes));
 }
 
 template <class Item>

@@ -16,7 +16,10 @@ namespace Host {
 template <class Item>
 QJsonObject ArrayToJson(const std::vector<Item>& items);
 
-/// What ArrayToJson() wrote. Throws SceneFormatError.
+/// How many items an array says that it holds. Throws SceneFormatError.
+std::size_t CountOfArray(const JsonNode& node);
+
+/// What ArrayToJson() wrote. Throws SceneFormatError. Nothing is unpacked that is larger than the count says.
 template <class Item>
 std::vector<Item> ArrayFromJson(const JsonNode& node);
 

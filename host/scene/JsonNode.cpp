@@ -1,5 +1,7 @@
 #include "host/scene/JsonNode.h"
 
+#include "host/scene/SceneText.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -26,18 +28,18 @@ bool JsonNode::Has(const char* name) const
 
 JsonNode JsonNode::operator[](const char* name) const
 {
-    Require(QJsonValue::Object, "a group of values");
+    Require(QJsonValue::Object, QT_TRANSLATE_NOOP("SceneText", "must be a group of values"));
     const QString place = m_place.isEmpty() ? QString() : m_place + QLatin1Char('.');
     const JsonNode member(m_value.toObject().value(QLatin1String(name)), place + QLatin1String(name));
     if (member.m_value.isUndefined()) {
-        member.Refuse(QStringLiteral("is missing"));
+        member.Refuse(SceneText::tr("is missing"));
     }
     return member;
 }
 
 std::vector<JsonNode> JsonNode::Items() const
 {
-    Require(QJsonValue::Array, "a list");
+    Require(QJsonValue::Array, QT_TRANSLATE_NOOP("SceneText", "must be a list"));
     std::vector<JsonNode> items;
     const QJsonArray array = m_value.toArray();
     items.reserve(std::size_t(array.size()));
@@ -49,19 +51,19 @@ std::vector<JsonNode> JsonNode::Items() const
 
 bool JsonNode::ToBool() const
 {
-    Require(QJsonValue::Bool, "true or false");
+    Require(QJsonValue::Bool, QT_TRANSLATE_NOOP("SceneText", "must be true or false"));
     return m_value.toBool();
 }
 
 QString JsonNode::ToText() const
 {
-    Require(QJsonValue::String, "text");
+    Require(QJsonValue::String, QT_TRANSLATE_NOOP("SceneText", "must be text"));
     return m_value.toString();
 }
 
 double JsonNode::ToNumber() const
 {
-    Require(QJsonValue::Double, "a number");
+    Require(QJsonValue::Double, QT_TRANSLATE_NOOP("SceneText", "must be a number"));
     return m_value.toDouble();
 }
 
@@ -70,7 +72,7 @@ qint64 JsonNode::ToInteger(qint64 minimum, qint64 maximum) const
     const double number = ToNumber();
     if (std::floor(number) != number || number < static_cast<double>(minimum) ||
         number > static_cast<double>(maximum)) {
-        Refuse(QStringLiteral("must be a whole number from %1 to %2").arg(minimum).arg(maximum));
+        Refuse(SceneText::tr("must be a whole number from %1 to %2").arg(minimum).arg(maximum));
     }
     return static_cast<qint64>(number);
 }
@@ -79,21 +81,21 @@ QByteArray JsonNode::ToBytes() const
 {
     const auto bytes = QByteArray::fromBase64Encoding(ToText().toUtf8(), QByteArray::AbortOnBase64DecodingErrors);
     if (!bytes) {
-        Refuse(QStringLiteral("is not valid base64"));
+        Refuse(SceneText::tr("is not valid base64"));
     }
     return bytes.decoded;
 }
 
 void JsonNode::Refuse(const QString& complaint) const
 {
-    const QString subject = m_place.isEmpty() ? QStringLiteral("the document") : m_place;
+    const QString subject = m_place.isEmpty() ? SceneText::tr("the document") : m_place;
     throw SceneFormatError(subject + QLatin1Char(' ') + complaint);
 }
 
-void JsonNode::Require(QJsonValue::Type type, const char* what) const
+void JsonNode::Require(QJsonValue::Type type, const char* complaint) const
 {
     if (m_value.type() != type) {
-        Refuse(QStringLiteral("must be %1").arg(QLatin1String(what)));
+        Refuse(SceneText::tr(complaint));
     }
 }
 

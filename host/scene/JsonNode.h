@@ -47,7 +47,7 @@ public:
     [[noreturn]] void Refuse(const QString& complaint) const;
 
 private:
-    void Require(QJsonValue::Type type, const char* what) const;
+    void Require(QJsonValue::Type type, const char* complaint) const;
 
     QJsonValue m_value;
     QString m_place;

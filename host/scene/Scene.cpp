@@ -1,5 +1,6 @@
 #include "host/scene/Scene.h"
 
+#include "host/scene/EditMerge.h"
 #include "host/scene/Handles.h"
 
 #include <QUndoCommand>
@@ -109,37 +110,6 @@ void AppendOwners(QVector<BF::CHandle*>& owners, const std::vector<Change>& chan
     }
 }
 
-// What tells changes of different things apart.
-
-auto KeyOf(const SceneEdit::ClothChange& change)
-{
-    return std::make_tuple(change.address.object, change.address.mesh, change.address.material);
-}
-
-auto KeyOf(const SceneEdit::MaterialChange& change)
-{
-    return change.material;
-}
-
-auto KeyOf(const SceneEdit::ObjectChange& change)
-{
-    return change.object;
-}
-
-/// Lets \p changes end where \p later ones of the same things do. \return false when they are about other things
-template <class Change>
-bool TakeAfter(std::vector<Change>& changes, const std::vector<Change>& later)
-{
-    const auto sameThing = [](const Change& a, const Change& b) { return KeyOf(a) == KeyOf(b); };
-    if (!std::equal(changes.begin(), changes.end(), later.begin(), later.end(), sameThing)) {
-        return false;
-    }
-    for (std::size_t i = 0; i < changes.size(); ++i) {
-        changes[i].after = later[i].after;
-    }
-    return true;
-}
-
 } // namespace
 
 /// The undo stack's view of an edit.
@@ -160,17 +130,21 @@ public:
     }
     void redo() override { m_scene.Apply(m_edit, true); }
 
-    int id() const override { return m_edit.run; }
+    /// Commands with the same number become one: runs count upwards from 0, user actions downwards from -2.
+    int id() const override
+    {
+        constexpr int never = -1;
+        return m_edit.run != SceneEdit::noRun ? m_edit.run : never - m_edit.action;
+    }
     bool mergeWith(const QUndoCommand* other) override
     {
         const auto* later = dynamic_cast<const EditCommand*>(other);
         SceneEdit merged = m_edit;
-        if (!later || m_edit.refused || later->m_edit.refused || !TakeAfter(merged.cloths, later->m_edit.cloths) ||
-            !TakeAfter(merged.materials, later->m_edit.materials) ||
-            !TakeAfter(merged.objects, later->m_edit.objects)) {
+        if (!later || !MergeEdits(merged, later->m_edit)) {
             return false;
         }
         m_edit = std::move(merged);
+        setText(m_edit.text);
         setObsolete(m_edit.ChangesNothing());
         return true;
     }
@@ -215,6 +189,7 @@ Object& Scene::AddObject(Object object)
     m_objects.push_back(std::make_unique<Object>(std::move(object)));
     Object& stored = *m_objects.back();
     m_index.Add(stored);
+    m_size += SceneSize::Of(stored);
     Q_EMIT ObjectsChanged();
     return stored;
 }
@@ -326,6 +301,9 @@ bool Scene::Push(SceneEdit edit)
     TakeBefore(edit.objects, m_index);
     if (edit.ChangesNothing() && !edit.isStepAnyway && !edit.refused) {
         return false;
+    }
+    if (!edit.isStepAnyway && !edit.refused && !ChangesExistence(edit)) {
+        edit.action = m_userAction;
     }
     m_undoStack.push(std::make_unique<EditCommand>(*this, std::move(edit)).release());
     return true;

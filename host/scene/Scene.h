@@ -3,6 +3,7 @@
 #include "host/scene/Entities.h"
 #include "host/scene/SceneEdit.h"
 #include "host/scene/SceneIndex.h"
+#include "host/scene/SceneSize.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -35,6 +36,9 @@ public:
     /// \return the stored object; its address stays valid while the scene lives
     Object& AddObject(Object object);
 
+    /// Of all objects together, deleted ones included.
+    const SceneSize& Size() const { return m_size; }
+
     /// The objects that exist, in the order of adding.
     std::vector<Object*> Objects() const;
     /// All objects, deleted ones included.
@@ -48,7 +52,7 @@ public:
     /// Null unless the object exists, has the mesh, and the mesh has the material.
     MaterialSlot* FindSlot(const ClothAddress& address) const;
 
-    /// Where a material stands among the materials of \p object; none when it is not one of them.
+    /// The position of a material among the materials of \p object; none when it is not one of them.
     std::optional<std::size_t> PositionOfMaterial(const Object& object, Id id) const;
     /// Whether a material is offered for the soft cloth: switched on, and ignored on none of its meshes.
     bool MayTakePart(Id material) const;
@@ -76,6 +80,11 @@ public:
     /// unknown things are left out. \return true when it became a step; an edit that changes nothing does not, unless
     /// it is to be one anyway
     bool Push(SceneEdit edit);
+
+    /// What is pushed from here on, up to the next call, is one user action and becomes one undo step. Left out are
+    /// edits that can be taken back by themselves, and objects that come or go.
+    /// Before the first call each edit is a step of its own.
+    void BeginUserAction() { ++m_userAction; }
 
     /// The objects that an edit touches, each once, in scene order; deleted ones included.
     QVector<BF::CHandle*> ObjectsOf(const SceneEdit& edit) const;
@@ -111,10 +120,12 @@ private:
 
     std::vector<std::unique_ptr<Object>> m_objects;
     SceneIndex m_index; ///< Of all objects, deleted ones included.
+    SceneSize m_size;
     QVector<BF::CHandle*> m_selection;
     QUndoStack m_undoStack;
     Applied m_applied;
     bool m_restoring = false;
+    int m_userAction = SceneEdit::noAction;
 };
 
 } // namespace Host

@@ -40,15 +40,18 @@ struct SceneEdit
     };
 
     static constexpr int noRun = -1;
+    static constexpr int noAction = 0;
 
     QString text; ///< What the undo menu shows.
     /// Edits of the same things that follow each other with the same number become one undo step, as while a slider is
     /// dragged.
     int run = noRun;
+    /// Set by the scene: the user action that it was pushed in.
+    int action = noAction;
     /// It is a step even when it changes nothing: whoever pushes it may want to take it back.
     bool isStepAnyway = false;
-    /// The user is to be told that this was no good, and then it is taken back. It is a step anyway, and undoing it
-    /// removes it for good, so that nothing is left to redo. Scene files do not tell such steps from others.
+    /// The user gets a message that this was refused, and then it is undone. It is a step anyway, and undoing it
+    /// removes it for good, so that nothing is left to redo. Scene files do not distinguish such steps from others.
     bool refused = false;
     std::vector<ClothChange> cloths;
     std::vector<MaterialChange> materials;

@@ -1,23 +1,23 @@
 #include "host/scene/SceneFile.h"
 
+#include "host/scene/JsonLimits.h"
 #include "host/scene/JsonNode.h"
+#include "host/scene/Limits.h"
+#include "host/scene/SaveFile.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SceneJson.h"
+#include "host/scene/SceneText.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 #include <new>
 
 namespace Host {
 
 namespace {
-
-/// Larger files are neither written nor read; they would not fit into a byte array while they are converted.
-constexpr qint64 maxFileSize = qint64{1} << 30;
 
 SceneFileResult Refused(const QString& sentence, const QString& path, const QString& reason = {})
 {
@@ -27,12 +27,12 @@ SceneFileResult Refused(const QString& sentence, const QString& path, const QStr
 
 SceneFileResult NotSaved(const QString& path, const QString& reason)
 {
-    return Refused(QStringLiteral("The scene could not be saved as \"%1\": %2."), path, reason);
+    return Refused(SceneText::tr("The scene could not be saved as \"%1\": %2."), path, reason);
 }
 
 SceneFileResult NotLoaded(const QString& path, const QString& reason)
 {
-    return Refused(QStringLiteral("The scene file \"%1\" could not be loaded: %2."), path, reason);
+    return Refused(SceneText::tr("The scene file \"%1\" could not be loaded: %2."), path, reason);
 }
 
 template <class Item>
@@ -65,50 +65,59 @@ SceneFileResult Save(const Scene& scene, const QString& path)
 {
     const QFileInfo info(path);
     if (path.isEmpty()) {
-        return NotSaved(path, QStringLiteral("it has no name"));
+        return NotSaved(path, SceneText::tr("it has no name"));
     }
     if (info.exists() && !info.isFile()) {
-        return NotSaved(path, QStringLiteral("it is not a file"));
+        return NotSaved(path, SceneText::tr("it is not a file"));
     }
-    const QString tooLarge = QStringLiteral("it is too large");
-    if (BytesOf(scene) > maxFileSize) {
+    const QString tooLarge = SceneText::tr("it is too large");
+    const QString tooMuch = scene.Size().ReasonToRefuse();
+    if (!tooMuch.isNull()) {
+        return NotSaved(path, tooMuch);
+    }
+    if (BytesOf(scene) > Limits::sceneFileSize) {
         return NotSaved(path, tooLarge);
     }
     const QByteArray text = QJsonDocument(SceneToJson(scene, info.absoluteDir())).toJson(QJsonDocument::Compact);
-    if (text.size() > maxFileSize) {
+    if (text.size() > Limits::sceneFileSize) {
         return NotSaved(path, tooLarge);
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
-        return NotSaved(path, file.errorString());
+    const QString unreadable = ReasonToRefuseJson(text); // what could not be loaded again is not saved either
+    if (!unreadable.isNull()) {
+        return NotSaved(path, unreadable);
     }
-    return {true, {}};
+    const QString problem = SaveFile(path, text);
+    return problem.isNull() ? SceneFileResult{true, {}} : NotSaved(path, problem);
 }
 
 SceneFileResult Load(const QString& path, std::unique_ptr<Scene>& scene)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        return Refused(QStringLiteral("There is no scene file \"%1\"."), path);
+        return Refused(SceneText::tr("There is no scene file \"%1\"."), path);
     }
     if (!info.isFile()) {
-        return Refused(QStringLiteral("\"%1\" is not a file."), path);
+        return Refused(SceneText::tr("\"%1\" is not a file."), path);
     }
     if (info.size() == 0) {
-        return Refused(QStringLiteral("The scene file \"%1\" is empty."), path);
+        return Refused(SceneText::tr("The scene file \"%1\" is empty."), path);
     }
-    if (info.size() > maxFileSize) {
-        return NotLoaded(path, QStringLiteral("it is too large"));
+    if (info.size() > Limits::sceneFileSize) {
+        return NotLoaded(path, SceneText::tr("it is too large"));
     }
     QFile file(path);
     const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (file.error() != QFileDevice::NoError) {
         return NotLoaded(path, file.errorString());
     }
+    const QString unreadable = ReasonToRefuseJson(text);
+    if (!unreadable.isNull()) {
+        return NotLoaded(path, unreadable);
+    }
     QJsonParseError parsing{};
     const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
     if (parsing.error != QJsonParseError::NoError) {
-        return NotLoaded(path, QStringLiteral("it is damaged or no scene file at all (%1 at byte %2)")
+        return NotLoaded(path, SceneText::tr("it is damaged or no scene file at all (%1 at byte %2)")
                                    .arg(parsing.errorString())
                                    .arg(parsing.offset));
     }
@@ -123,7 +132,7 @@ SceneFileResult SaveScene(const Scene& scene, const QString& path)
     try {
         return Save(scene, path);
     } catch (const std::bad_alloc&) {
-        return NotSaved(path, QStringLiteral("there is not enough memory"));
+        return NotSaved(path, SceneText::tr("there is not enough memory"));
     }
 }
 
@@ -135,7 +144,7 @@ SceneFileResult LoadScene(const QString& path, std::unique_ptr<Scene>& scene)
     } catch (const SceneFormatError& error) {
         return NotLoaded(path, error.Reason());
     } catch (const std::bad_alloc&) {
-        return NotLoaded(path, QStringLiteral("there is not enough memory"));
+        return NotLoaded(path, SceneText::tr("there is not enough memory"));
     }
 }
 

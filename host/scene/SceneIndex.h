@@ -10,7 +10,7 @@ namespace Host {
 struct ClothAddress;
 
 /// Finds the objects of a scene and their parts by handle and id in constant time, deleted objects included. Each
-/// answer is null for what is unknown.
+/// result is null for what is unknown.
 class SceneIndex
 {
 public:
@@ -23,7 +23,7 @@ public:
     Mesh* FindMesh(Id id) const;
     Material* FindMaterial(Id id) const;
     MaterialSlot* FindSlot(const ClothAddress& address) const;
-    /// Where a material stands among its object's; 0 for an unknown one.
+    /// The position of a material among its object's; 0 for an unknown one.
     std::size_t PositionOfMaterial(Id id) const { return Lookup(m_materials, id).position; }
 
 private:

@@ -4,6 +4,8 @@
 #include "host/scene/GeometryJson.h"
 #include "host/scene/Handles.h"
 #include "host/scene/Scene.h"
+#include "host/scene/SceneSize.h"
+#include "host/scene/SceneText.h"
 
 #include <algorithm>
 #include <set>
@@ -23,23 +25,40 @@ QColor ColorFromJson(const JsonNode& node)
 {
     const std::vector<JsonNode> parts = node.Items();
     if (parts.size() != 4) {
-        node.Refuse(QStringLiteral("must be a list of 4 numbers"));
+        node.Refuse(SceneText::tr("must be a list of 4 numbers"));
     }
     const auto part = [&](std::size_t i) { return static_cast<quint16>(parts[i].ToInteger(0, 0xffff)); };
     return QColor::fromRgba64(part(0), part(1), part(2), part(3));
 }
 
-/// The ids that a file has defined so far.
-using TakenIds = std::set<Id>;
-
-Id DefineId(const JsonNode& node, TakenIds& taken)
+/// What a file has defined so far.
+struct Defined
 {
-    const Id id = LocalId(node);
-    if (!taken.insert(id).second) {
-        node.Refuse(QStringLiteral("is %1, which is in use already").arg(id));
+    std::set<Id> ids;
+    SceneSize size;
+
+    Id Take(const JsonNode& node)
+    {
+        const Id id = LocalId(node);
+        if (!ids.insert(id).second) {
+            node.Refuse(SceneText::tr("is %1, which is in use already").arg(id));
+        }
+        return id;
     }
-    return id;
-}
+
+    /// Counts what is to be read next, before any memory is taken for it.
+    void Add(const SceneSize& more)
+    {
+        size += more;
+        const QString reason = size.ReasonToRefuse();
+        if (!reason.isNull()) {
+            throw SceneFormatError(reason);
+        }
+    }
+};
+
+/// Where an object's materials are in its list, by their ids in the file.
+using MaterialPositions = std::map<Id, std::size_t>;
 
 std::pair<MV::ETextureChannel, Texture> TextureFromJson(const JsonNode& node, const QDir& folder)
 {
@@ -55,88 +74,98 @@ std::pair<MV::ETextureChannel, Texture> TextureFromJson(const JsonNode& node, co
 
 // Objects are read with the ids of the file; the scene replaces them.
 
-Material MaterialFromJson(const JsonNode& node, const StateReader& states, TakenIds& taken)
+Material MaterialFromJson(const JsonNode& node, const StateReader& states, Defined& defined)
 {
+    SceneSize one;
+    one.materials = 1;
+    defined.Add(one);
     Material material;
-    material.id = DefineId(node["id"], taken);
+    material.id = defined.Take(node["id"]);
     material.name = node["name"].ToText();
     material.diffuse = ColorFromJson(node["diffuse"]);
     for (const JsonNode& texture : node["textures"].Items()) {
         if (!material.textures.insert(TextureFromJson(texture, states.Folder())).second) {
-            texture["channel"].Refuse(QStringLiteral("has a texture already"));
+            texture["channel"].Refuse(SceneText::tr("has a texture already"));
         }
     }
     material.state = states.Read<MaterialState>(node["state"]);
     return material;
 }
 
-std::vector<quint32> IndicesFromJson(const JsonNode& node, std::size_t vertexCount)
+std::vector<quint32> IndicesFromJson(const JsonNode& node, std::size_t vertexCount, Defined& defined)
 {
+    SceneSize triangles;
+    triangles.triangles = CountOfArray(node) / 3;
+    defined.Add(triangles);
     std::vector<quint32> indices = ArrayFromJson<quint32>(node);
     if (indices.size() % 3 != 0) {
-        node.Refuse(QStringLiteral("must hold three indices per triangle"));
+        node.Refuse(SceneText::tr("must hold three indices per triangle"));
     }
     if (std::any_of(indices.begin(), indices.end(), [vertexCount](quint32 index) { return index >= vertexCount; })) {
-        node.Refuse(QStringLiteral("names a vertex that the mesh does not have"));
+        node.Refuse(SceneText::tr("names a vertex that the mesh does not have"));
     }
     return indices;
 }
 
-/// Names its material as Scene::AddObject() wants it: by the position in \p materials plus one.
-MaterialSlot SlotFromJson(const JsonNode& node, std::size_t vertexCount, const std::vector<Material>& materials,
-                          const StateReader& states)
+/// Names its material as Scene::AddObject() wants it: by its position plus one.
+MaterialSlot SlotFromJson(const JsonNode& node, std::size_t vertexCount, const MaterialPositions& materials,
+                          const StateReader& states, Defined& defined)
 {
     const JsonNode name = node["material"];
-    const auto found = std::find_if(materials.begin(), materials.end(),
-                                    [id = LocalId(name)](const Material& material) { return material.id == id; });
+    const auto found = materials.find(LocalId(name));
     if (found == materials.end()) {
-        name.Refuse(QStringLiteral("names a material that the object does not have"));
+        name.Refuse(SceneText::tr("names a material that the object does not have"));
     }
-    return {static_cast<Id>(found - materials.begin()) + 1, IndicesFromJson(node["indices"], vertexCount),
+    return {found->second + 1, IndicesFromJson(node["indices"], vertexCount, defined),
             states.Read<ClothState>(node["cloth"])};
 }
 
 template <class Item>
 std::vector<Item> PerVertexFromJson(const JsonNode& node, std::size_t vertexCount)
 {
-    std::vector<Item> items = ArrayFromJson<Item>(node);
-    if (!items.empty() && items.size() != vertexCount) {
-        node.Refuse(QStringLiteral("must hold one item per vertex or none"));
+    const std::size_t count = CountOfArray(node);
+    if (count != 0 && count != vertexCount) {
+        node.Refuse(SceneText::tr("must hold one item per vertex or none"));
     }
-    return items;
+    return ArrayFromJson<Item>(node);
 }
 
-Mesh MeshFromJson(const JsonNode& node, const std::vector<Material>& materials, const StateReader& states,
-                  TakenIds& taken)
+Mesh MeshFromJson(const JsonNode& node, const MaterialPositions& materials, const StateReader& states, Defined& defined)
 {
+    SceneSize one;
+    one.meshes = 1;
+    one.vertices = CountOfArray(node["positions"]);
+    defined.Add(one);
     Mesh mesh;
-    mesh.id = DefineId(node["id"], taken);
+    mesh.id = defined.Take(node["id"]);
     mesh.name = node["name"].ToText();
     mesh.positions = ArrayFromJson<QVector3D>(node["positions"]);
     mesh.normals = PerVertexFromJson<QVector3D>(node["normals"], mesh.positions.size());
     mesh.uvs = PerVertexFromJson<QVector2D>(node["uvs"], mesh.positions.size());
     std::set<Id> used;
     for (const JsonNode& slot : node["slots"].Items()) {
-        mesh.materialSlots.push_back(SlotFromJson(slot, mesh.positions.size(), materials, states));
+        mesh.materialSlots.push_back(SlotFromJson(slot, mesh.positions.size(), materials, states, defined));
         if (!used.insert(mesh.materialSlots.back().material).second) {
-            slot["material"].Refuse(QStringLiteral("has a slot on this mesh already"));
+            slot["material"].Refuse(SceneText::tr("has a slot on this mesh already"));
         }
     }
     return mesh;
 }
 
-Object ObjectFromJson(const JsonNode& node, const StateReader& states, TakenIds& taken)
+Object ObjectFromJson(const JsonNode& node, const StateReader& states, Defined& defined)
 {
     Object object;
-    object.handle = ToHandle(DefineId(node["id"], taken));
+    object.handle = ToHandle(defined.Take(node["id"]));
     object.name = node["name"].ToText();
     object.traits = states.Read<ObjectTraits>(node["traits"]);
     object.state = states.Read<ObjectState>(node["state"]);
+    MaterialPositions positions;
     for (const JsonNode& material : node["materials"].Items()) {
-        object.materials.push_back(MaterialFromJson(material, states, taken));
+        object.materials.push_back(MaterialFromJson(material, states, defined));
+        positions.emplace(object.materials.back().id, positions.size());
     }
     for (const JsonNode& mesh : node["meshes"].Items()) {
-        object.meshes.push_back(MeshFromJson(mesh, object.materials, states, taken));
+        object.meshes.push_back(MeshFromJson(mesh, positions, states, defined));
     }
     return object;
 }
@@ -166,7 +195,7 @@ public:
 
     void AddObject(const JsonNode& node)
     {
-        Object object = ObjectFromJson(node, m_states, m_taken);
+        Object object = ObjectFromJson(node, m_states, m_defined);
         const std::vector<Id> local = IdsOf(object);
         const Object& added = m_scene.AddObject(std::move(object));
         const std::vector<Id> fresh = IdsOf(added);
@@ -200,12 +229,25 @@ public:
         return edit;
     }
 
+    QVector<BF::CHandle*> SelectionFromJson(const JsonNode& node) const
+    {
+        QVector<BF::CHandle*> selection;
+        for (const JsonNode& item : node.Items()) {
+            BF::CHandle* const object = ToHandle(FreshId(item));
+            if (m_objects.count(object) == 0) {
+                item.Refuse(SceneText::tr("is no object of the scene"));
+            }
+            selection.append(object);
+        }
+        return selection;
+    }
+
 private:
     template <class Things, class Thing>
     static Thing Known(const Things& things, Thing thing, const JsonNode& change)
     {
         if (things.count(thing) == 0) {
-            change.Refuse(QStringLiteral("changes something that the scene does not have"));
+            change.Refuse(SceneText::tr("changes something that the scene does not have"));
         }
         return thing;
     }
@@ -238,7 +280,7 @@ private:
 
     Scene& m_scene;
     const StateReader& m_states;
-    TakenIds m_taken;
+    Defined m_defined;
     std::map<Id, Id> m_ids; ///< From those of the file to those of the scene.
     std::set<BF::CHandle*> m_objects;
     std::set<Id> m_materials;
@@ -250,11 +292,11 @@ int RequireFormat(const JsonNode& root)
 {
     if (!root.Has("format") || !root["format"].IsText() ||
         root["format"].ToText() != QLatin1String(SceneFormat::name)) {
-        throw SceneFormatError(QStringLiteral("it is no scene of this application"));
+        throw SceneFormatError(SceneText::tr("it is no scene of this application"));
     }
     const qint64 version = root["version"].ToInteger(1, std::numeric_limits<int>::max());
     if (version > SceneFormat::version) {
-        throw SceneFormatError(QStringLiteral("it was written by a newer version of this application"));
+        throw SceneFormatError(SceneText::tr("it was written by a newer version of this application"));
     }
     return static_cast<int>(version);
 }
@@ -276,6 +318,10 @@ std::unique_ptr<Scene> SceneFromJson(const QJsonObject& document, const QDir& fo
         steps.push_back(reader.EditFromJson(step));
     }
     scene->RestoreUndoSteps(steps, static_cast<int>(undo["applied"].ToInteger(0, static_cast<qint64>(steps.size()))));
+    // Files of former versions tell of no selection.
+    if (root.Has("selection")) {
+        scene->SetSelection(reader.SelectionFromJson(root["selection"]));
+    }
     return scene;
 }
 

@@ -148,6 +148,8 @@ QJsonObject SceneToJson(const Scene& scene, const QDir& folder)
     return {{QStringLiteral("format"), QLatin1String(SceneFormat::name)},
             {QStringLiteral("version"), SceneFormat::version},
             {QStringLiteral("objects"), objects},
+            {QStringLiteral("selection"),
+             ListOf(scene.Selection(), [&](const BF::CHandle* object) { return ids.Of(object); })},
             {QStringLiteral("images"), states.Images()},
             {QStringLiteral("undo"), undo}};
 }

@@ -8,7 +8,7 @@
 
 namespace Host {
 
-/// One member of a record under the name that it bears in a scene file.
+/// One member of a record and its name in a scene file.
 template <class Record, class Value>
 struct Field
 {

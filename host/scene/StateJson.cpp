@@ -1,5 +1,6 @@
 #include "host/scene/StateJson.h"
 
+#include "host/scene/SceneText.h"
 #include "host/scene/StateFields.h"
 
 #include <QJsonArray>
@@ -57,7 +58,7 @@ void FromJson(const JsonNode& node, qint64& value)
     bool ok = false;
     value = node.ToText().toLongLong(&ok);
     if (!ok) {
-        node.Refuse(QStringLiteral("must be a whole number in quotation marks"));
+        node.Refuse(SceneText::tr("must be a whole number in quotation marks"));
     }
 }
 
@@ -76,7 +77,7 @@ void FromJson(const JsonNode& node, float& value)
     if (!node.IsText()) {
         const double number = node.ToNumber();
         if (std::fabs(number) > static_cast<double>(std::numeric_limits<float>::max())) {
-            node.Refuse(QStringLiteral("is out of range"));
+            node.Refuse(SceneText::tr("is out of range"));
         }
         value = static_cast<float>(number);
         return;
@@ -85,7 +86,7 @@ void FromJson(const JsonNode& node, float& value)
     bool ok = false;
     const quint32 bits = text.toUInt(&ok, 16);
     if (!ok || !text.startsWith(QLatin1String("0x"))) {
-        node.Refuse(QStringLiteral("must be a number"));
+        node.Refuse(SceneText::tr("must be a number"));
     }
     std::memcpy(&value, &bits, sizeof(bits));
 }
@@ -105,7 +106,7 @@ void FromJson(const JsonNode& node, std::array<float, size>& values)
 {
     const std::vector<JsonNode> items = node.Items();
     if (items.size() != size) {
-        node.Refuse(QStringLiteral("must be a list of %1 numbers").arg(size));
+        node.Refuse(SceneText::tr("must be a list of %1 numbers").arg(size));
     }
     for (std::size_t i = 0; i < size; ++i) {
         FromJson(items[i], values[i]);
@@ -124,7 +125,7 @@ void FromJson(const JsonNode& node, std::array<unsigned char, size>& bytes)
 {
     const QByteArray raw = node.ToBytes();
     if (static_cast<std::size_t>(raw.size()) != size) {
-        node.Refuse(QStringLiteral("must be %1 bytes").arg(size));
+        node.Refuse(SceneText::tr("must be %1 bytes").arg(size));
     }
     std::copy(raw.begin(), raw.end(), bytes.begin());
 }

@@ -5,7 +5,7 @@
 
 namespace Host {
 
-/// MV::CAuxService. The state that it answers is always 0.
+/// MV::CAuxService. The state that it reports is always 0.
 class AuxService final : public MV::CAuxService, private ServiceBase
 {
 public:

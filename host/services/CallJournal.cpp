@@ -18,9 +18,16 @@ CallJournal::CallJournal(QObject* parent)
 {
 }
 
+QString CallJournal::DroppedText() const
+{
+    return m_dropped == 0 ? QString()
+                          : tr("Only the last calls are kept: the first %L1 since the journal was emptied are gone.")
+                                .arg(m_dropped);
+}
+
 QString CallJournal::ToText() const
 {
-    QString text;
+    QString text = m_dropped == 0 ? QString() : DroppedText() + QLatin1Char('\n');
     for (const JournalEntry& entry : m_entries) {
         text += QString(entry.depth * 2, QLatin1Char(' ')) + entry.service + QLatin1Char('.') + entry.ToString() +
                 QLatin1Char('\n');
@@ -32,16 +39,32 @@ void CallJournal::Clear()
 {
     m_firstNumber += m_entries.size();
     m_entries.clear();
+    m_dropped = 0;
     Q_EMIT Cleared();
 }
 
 qint64 CallJournal::Begin(JournalEntry entry)
 {
+    DropOldEntries();
     entry.depth = m_depth++;
     m_entries.append(std::move(entry));
     const int index = m_entries.size() - 1;
     Q_EMIT EntryAdded(index);
     return m_firstNumber + index;
+}
+
+/// Many at a time, so that dropping costs next to nothing for each.
+void CallJournal::DropOldEntries()
+{
+    constexpr int atATime = mostEntries / 20;
+    if (m_entries.size() < mostEntries + atATime) {
+        return;
+    }
+    Q_EMIT AboutToDropEntries(atATime);
+    m_entries.remove(0, atATime);
+    m_firstNumber += atATime;
+    m_dropped += atATime;
+    Q_EMIT EntriesDropped();
 }
 
 void CallJournal::End(qint64 number, const QStringList& arguments, const QString& result)

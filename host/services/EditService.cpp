@@ -2,6 +2,7 @@
 
 #include "host/services/RecordFields.h"
 #include "host/services/WeightImages.h"
+#include "panel/HostCodes.h"
 
 #include <algorithm>
 
@@ -9,7 +10,7 @@ namespace Host {
 
 namespace {
 
-constexpr int softClothPhysics = 3;
+using MV::softClothPhysics;
 
 QMap<QString, QStringList> ToIgnored(const std::map<std::wstring, BF::CArrayList<std::wstring>>& names)
 {
@@ -89,7 +90,7 @@ BF::Result EditService::EditObject(BF::CHandle* object, const QString& text, MV:
 BF::Result EditService::ConvertToRigidBody(BF::CHandle* object)
 {
     return Record("ConvertToRigidBody", {In(object)}, [&] {
-        return EditObject(object, App().tr("Convert to rigid body"), MV::EObjectChangedDataType::Topology,
+        return EditObject(object, HostApplication::tr("Convert to rigid body"), MV::EObjectChangedDataType::Topology,
                           [](ObjectState& state) {
                               state.softCloth = false;
                               state.rigidBody = true;
@@ -118,8 +119,8 @@ BF::Result EditService::SetUseGlobalGravity(BF::CHandle* object, Id mesh, Id mat
 {
     return Record("SetUseGlobalGravity", {In(object), InId(mesh), InId(material), In(use), In(affectAllMaterials)},
                   [&] {
-                      return EditCloths({object, mesh, material}, affectAllMaterials, App().tr("World gravity"),
-                                        [use](ClothState& cloth) {
+                      return EditCloths({object, mesh, material}, affectAllMaterials,
+                                        HostApplication::tr("World gravity"), [use](ClothState& cloth) {
                                             cloth.useGlobalGravity = use;
                                             return true;
                                         });
@@ -150,7 +151,7 @@ BF::Result EditService::SetWeightImageAdjust(BF::CHandle* object, Id mesh, Id ma
             return App().Weights().Adjust({object, mesh, material}, adjust, flag1);
         });
     if (!wasRun && result == BF::Results::Refused) {
-        App().Weights().PushRefusal(App().tr("Adjust weight image"));
+        App().Weights().PushRefusal(HostApplication::tr("Adjust weight image"));
     }
     return result;
 }
@@ -159,7 +160,7 @@ BF::Result EditService::SetIgnoredMaterialNames(BF::CHandle* object,
                                                 const std::map<std::wstring, BF::CArrayList<std::wstring>>& names)
 {
     return Record("SetIgnoredMaterialNames", {In(object), In(names)}, [&] {
-        return EditObject(object, App().tr("Ignore materials"), MV::EObjectChangedDataType::MaterialList,
+        return EditObject(object, HostApplication::tr("Ignore materials"), MV::EObjectChangedDataType::MaterialList,
                           [&names](ObjectState& state) { state.ignoredMaterials = ToIgnored(names); });
     });
 }
@@ -169,7 +170,8 @@ BF::Result EditService::SetSoftClothProperty(BF::CHandle* object, Id mesh, Id ma
 {
     return Record("SetSoftClothProperty",
                   {In(object), InId(mesh), InId(material), In(type), In(data), In(affectAllMaterials)}, [&] {
-                      return EditCloths({object, mesh, material}, affectAllMaterials, App().tr("Soft cloth property"),
+                      return EditCloths({object, mesh, material}, affectAllMaterials,
+                                        HostApplication::tr("Soft cloth property"),
                                         [&](ClothState& cloth) { return TakeField(cloth.property, data, type); });
                   });
 }
@@ -180,7 +182,8 @@ BF::Result EditService::SetSoftClothCollision(BF::CHandle* object, Id mesh, Id m
 {
     return Record("SetSoftClothCollision",
                   {In(object), InId(mesh), InId(material), In(type), In(data), In(affectAllMaterials)}, [&] {
-                      return EditCloths({object, mesh, material}, affectAllMaterials, App().tr("Soft cloth collision"),
+                      return EditCloths({object, mesh, material}, affectAllMaterials,
+                                        HostApplication::tr("Soft cloth collision"),
                                         [&](ClothState& cloth) { return TakeField(cloth.collision, data, type); });
                   });
 }
@@ -188,11 +191,11 @@ BF::Result EditService::SetSoftClothCollision(BF::CHandle* object, Id mesh, Id m
 BF::Result EditService::SetSoftClothWind(BF::CHandle* object, Id mesh, Id material, MV::ESoftClothWindType type,
                                          const MV::SoftClothWindData& data, bool affectAllMaterials)
 {
-    return Record("SetSoftClothWind",
-                  {In(object), InId(mesh), InId(material), In(type), In(data), In(affectAllMaterials)}, [&] {
-                      return EditCloths({object, mesh, material}, affectAllMaterials, App().tr("Soft cloth wind"),
-                                        [&](ClothState& cloth) { return TakeField(cloth.wind, data, type); });
-                  });
+    return Record(
+        "SetSoftClothWind", {In(object), InId(mesh), InId(material), In(type), In(data), In(affectAllMaterials)}, [&] {
+            return EditCloths({object, mesh, material}, affectAllMaterials, HostApplication::tr("Soft cloth wind"),
+                              [&](ClothState& cloth) { return TakeField(cloth.wind, data, type); });
+        });
 }
 
 BF::Result EditService::UndoLastEdit()
@@ -214,8 +217,8 @@ BF::Result EditService::SetMaterialSoftClothEnabled(Id material, bool enabled)
             return BF::Results::InvalidArgument;
         }
         SceneEdit edit;
-        edit.text = enabled ? App().tr("Add %1 to the soft cloth").arg(found->name)
-                            : App().tr("Take %1 out of the soft cloth").arg(found->name);
+        edit.text = enabled ? HostApplication::tr("Add %1 to the soft cloth").arg(found->name)
+                            : HostApplication::tr("Take %1 out of the soft cloth").arg(found->name);
         edit.materials.push_back({material, {}, MaterialState{enabled}});
         const Object& owner = *CurrentScene().OwnerOfMaterial(material);
         if (enabled && !owner.state.ignoredMaterials.isEmpty()) {

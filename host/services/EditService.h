@@ -5,7 +5,7 @@
 
 namespace Host {
 
-/// MV::CEditService over the scene: every successful write is one undo step. The operations are told in the interface.
+/// MV::CEditService over the scene: every successful write is one undo step. The interface documents the operations.
 class EditService final : public MV::CEditService, private ServiceBase
 {
 public:
@@ -35,7 +35,7 @@ private:
     /// Applies \p change to the addressed cloth, or to all cloths of the object, as one undo step.
     template <class Change>
     BF::Result EditCloths(const ClothAddress& address, bool affectAllMaterials, const QString& text, Change change);
-    /// Applies \p change to the object's state, as one undo step, and tells of it.
+    /// Applies \p change to the object's state, as one undo step, and sends its event.
     template <class Change>
     BF::Result EditObject(BF::CHandle* object, const QString& text, MV::EObjectChangedDataType changedData,
                           Change change);

@@ -19,7 +19,7 @@ BF::Result FileService::LoadWeightImage(BF::CHandle* object, Id mesh, Id materia
             return App().Weights().Load({object, mesh, material}, QString::fromStdWString(path));
         });
     if (!wasRun && result.IsFailure()) {
-        App().Weights().PushRefusal(App().tr("Load weight image"));
+        App().Weights().PushRefusal(HostApplication::tr("Load weight image"));
     }
     return result;
 }
@@ -37,7 +37,7 @@ BF::Result FileService::LoadSoftIniProfile(const std::wstring& path)
 BF::Result FileService::ChangeCloths(const Object& object, const std::function<void(ClothState&)>& change)
 {
     SceneEdit edit;
-    edit.text = App().tr("Load soft cloth settings");
+    edit.text = HostApplication::tr("Load soft cloth settings");
     for (const ClothAddress& address : Scene::SlotsOf(object)) {
         ClothState cloth = CurrentScene().FindSlot(address)->cloth;
         if (cloth.active) {

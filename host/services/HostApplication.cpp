@@ -10,6 +10,7 @@
 #include "host/services/SoftClothService.h"
 #include "host/services/UiService.h"
 #include "host/services/WeightImages.h"
+#include "panel/HostCodes.h"
 
 #include <algorithm>
 
@@ -20,16 +21,7 @@ namespace {
 using MV::CEventSender;
 using Objects = BF::CArrayList<BF::CHandle*>;
 
-Objects ToList(const QVector<BF::CHandle*>& handles)
-{
-    Objects list;
-    for (BF::CHandle* handle : handles) {
-        list.Add(handle);
-    }
-    return list;
-}
-
-constexpr int noConversion = 3;
+using MV::notConverting;
 
 } // namespace
 
@@ -113,39 +105,31 @@ void HostApplication::ReplaceScene(std::unique_ptr<Scene> scene, MV::EFileType t
 
 BF::CHandle* HostApplication::AddModel(Object object)
 {
+    SceneSize size = m_scene->Size();
+    size += SceneSize::Of(object);
+    const QString tooMuch = size.ReasonToRefuse();
+    if (!tooMuch.isNull()) {
+        TellProblem(tr("The model \"%1\" is too large for this scene: %2.").arg(object.name, tooMuch));
+        return nullptr;
+    }
     // Added as an object that does not exist yet, so that undo can take it away again.
     object.state.exists = false;
     const Object& added = m_scene->AddObject(std::move(object));
+    BF::CHandle* const handle = added.handle;
     ObjectState present = added.state;
     present.exists = true;
     SceneEdit edit;
     edit.text = tr("Import %1").arg(added.name);
-    edit.objects.push_back({added.handle, {}, present});
+    edit.objects.push_back({handle, {}, present});
     m_scene->Push(std::move(edit));
     Send("HierarchyChanged", &CEventSender::HierarchyChanged);
     Send("FileLoaded", &CEventSender::FileLoaded, MV::EFileType::Model);
-    m_scene->SetSelection({added.handle});
+    if (!m_scene->FindObject(handle)) {
+        return nullptr;
+    }
+    m_scene->SetSelection({handle});
     Send("AfterFileLoaded", &CEventSender::AfterFileLoaded, MV::EFileType::Model);
-    return added.handle;
-}
-
-void HostApplication::DeleteObject(BF::CHandle* object)
-{
-    const Object* found = m_scene->FindObject(object);
-    if (!found) {
-        return;
-    }
-    const bool wasSelected = m_scene->Selection().contains(object);
-    ObjectState gone = found->state;
-    gone.exists = false;
-    SceneEdit edit;
-    edit.text = tr("Delete %1").arg(found->name);
-    edit.objects.push_back({object, {}, gone});
-    m_scene->Push(std::move(edit));
-    Send("ObjectDeleted", &CEventSender::ObjectDeleted, Objects{object});
-    if (wasSelected) {
-        Send("ObjectSelectionChanged", &CEventSender::ObjectSelectionChanged);
-    }
+    return m_scene->FindObject(handle) ? handle : nullptr;
 }
 
 void HostApplication::Select(const QVector<BF::CHandle*>& objects)
@@ -155,21 +139,15 @@ void HostApplication::Select(const QVector<BF::CHandle*>& objects)
     }
 }
 
-void HostApplication::Undo()
+void HostApplication::SelectAgain()
 {
-    m_weightImages->EndAdjusting();
-    StepUndoStack(false);
+    Send("ObjectSelectionChanged", &CEventSender::ObjectSelectionChanged);
 }
 
-void HostApplication::Redo()
+void HostApplication::PickMaterial(BF::CHandle* object, int index)
 {
-    m_weightImages->EndAdjusting();
-    StepUndoStack(true);
-}
-
-void HostApplication::TakeBack()
-{
-    StepUndoStack(false);
+    Send("PickedMaterialIndexChanged", &CEventSender::PickedMaterialIndexChanged, object,
+         static_cast<unsigned long long>(index));
 }
 
 void HostApplication::LoadImages(BF::CHandle* object)
@@ -187,38 +165,6 @@ void HostApplication::TellProblem(const QString& sentence)
 JournalText HostApplication::Text() const
 {
     return JournalText(*m_scene, &m_pictures->Handles());
-}
-
-/// After the step the panel reloads its material list; the images event makes it read the values again without
-/// losing the row that the user was at.
-void HostApplication::StepUndoStack(bool forward)
-{
-    QUndoStack& stack = m_scene->UndoStack();
-    if (!(forward ? stack.canRedo() : stack.canUndo())) {
-        return;
-    }
-    const QVector<BF::CHandle*> selectedBefore = m_scene->Selection();
-    QVector<BF::CHandle*> touched;
-    const auto connection = connect(m_scene.get(), &Scene::EditApplied, this,
-                                    [&touched](const QVector<BF::CHandle*>& objects) { touched = objects; });
-    if (forward) {
-        stack.redo();
-    } else {
-        stack.undo();
-    }
-    disconnect(connection);
-
-    Send("UndoRedoDone", &CEventSender::UndoRedoDone);
-    const bool allExist = std::all_of(touched.cbegin(), touched.cend(),
-                                      [this](BF::CHandle* handle) { return m_scene->FindObject(handle); });
-    if (!allExist) {
-        Send("ObjectDeleted", &CEventSender::ObjectDeleted, ToList(touched));
-    }
-    if (m_scene->Selection() != selectedBefore) {
-        Send("ObjectSelectionChanged", &CEventSender::ObjectSelectionChanged);
-    } else if (allExist) {
-        Send("LaunchedImageChanged", &CEventSender::LaunchedImageChanged, ToList(touched));
-    }
 }
 
 void HostApplication::SetPhysicsEngine(int engine)
@@ -283,8 +229,12 @@ void HostApplication::SetConvertState(BF::CHandle* object, int state)
     if (!found || found->traits.convertState == state) {
         return;
     }
-    if (found->traits.convertState == noConversion) {
+    if (found->traits.convertState == notConverting) {
         Send("AboutToConvertPhysicsObjectType", &CEventSender::AboutToConvertPhysicsObjectType);
+        found = m_scene->FindObject(object);
+        if (!found) {
+            return;
+        }
     }
     ObjectTraits traits = found->traits;
     traits.convertState = state;
@@ -298,9 +248,9 @@ void HostApplication::RenameMaterial(Id material, const QString& name)
         return;
     }
     found->name = name;
+    const Objects owner{m_scene->OwnerOfMaterial(material)->handle};
     Q_EMIT m_scene->ObjectsChanged();
-    Send("ObjectDataChanged", &CEventSender::ObjectDataChanged, Objects{m_scene->OwnerOfMaterial(material)->handle},
-         MV::EObjectChangedDataType::MaterialNames);
+    Send("ObjectDataChanged", &CEventSender::ObjectDataChanged, owner, MV::EObjectChangedDataType::MaterialNames);
 }
 
 bool HostApplication::SetSoftClothActive(BF::CHandle* object, bool active)
@@ -336,7 +286,8 @@ void HostApplication::ConvertToSoftCloth(BF::CHandle* object)
     }
     const int activeBefore = ActiveSlotCount(*found);
     SetSoftClothActive(object, true);
-    if (ActiveSlotCount(*found) > activeBefore + 1) {
+    found = m_scene->FindObject(object);
+    if (found && ActiveSlotCount(*found) > activeBefore + 1) {
         Send("PhysicsSoftClothMultiMaterialsDetected", &CEventSender::PhysicsSoftClothMultiMaterialsDetected, object);
     }
 }

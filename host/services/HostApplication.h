@@ -16,6 +16,7 @@
 
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace Host {
 
@@ -33,7 +34,8 @@ class WeightImages;
 /// The stand-in host application: a scene, the services over it, the events, the call journal and the fault plan.
 ///
 /// Whatever changes the scene or a mode goes through here, whether the plug-in asked for it or the user: the state is
-/// stored first, then the event is sent; a change to the same value sends none.
+/// stored first, then the event is sent; a change to the same value sends none. Whoever hears of an event, or of a
+/// problem, may change anything at all and exchange the scene: after it everything is looked up again.
 class HostApplication : public QObject, public MV::CMoviraInterface
 {
     Q_OBJECT
@@ -66,6 +68,12 @@ public:
     /// Tells the user about something that went wrong with a file, in a sentence.
     void TellProblem(const QString& sentence);
 
+    /// The next message box of a plug-in shows \p reason if it has no text of its own: the user gets one message
+    /// instead of two.
+    void ExplainNextBox(const QString& reason) { m_reason = reason; }
+    /// What the next message box is to explain; a null string for nothing. It is explained once.
+    QString TakeReason() { return std::exchange(m_reason, {}); }
+
     /// Parent of the plug-in's dialogs and of the host's own.
     void SetMainWindow(QWidget* window) { m_mainWindow = window; }
     QWidget* MainWindow() const { return m_mainWindow; }
@@ -78,10 +86,19 @@ public:
 
     /// Takes over a new scene in place of the current one.
     void ReplaceScene(std::unique_ptr<Scene> scene, MV::EFileType type);
-    /// Adds a model as one undo step and selects it. \return the new object's handle
+    /// Adds a model as one undo step and selects it.
+    /// \return the new object's handle; null, after a message, when the scene would become too large, and null when an
+    ///         event opened another scene meanwhile
     BF::CHandle* AddModel(Object object);
-    void DeleteObject(BF::CHandle* object);
+    /// Deletes objects as one undo step; unknown handles are left out.
+    void DeleteObjects(const QVector<BF::CHandle*>& objects);
     void Select(const QVector<BF::CHandle*>& objects);
+    /// The user has selected what is selected already: sends the event once more, so that the panel begins anew with
+    /// it.
+    void SelectAgain();
+    /// The user has chosen a material, number \p index of those of \p object.
+    void PickMaterial(BF::CHandle* object, int index);
+    /// Objects that come back by one of these are selected.
     void Undo();
     void Redo();
     /// Takes the last edit back for the one who made it; a run of edits can go on after that.
@@ -93,7 +110,7 @@ public:
     void SetPlaying(bool playing);
     void SetDialogMode(MV::EDialogMode mode);
     void SetPickMode(MV::EPickMode mode);
-    /// Everything that the host tells of an object besides its values. Sends an object-data event on a change.
+    /// Everything that the host reports of an object other than its values. Sends an object-data event on a change.
     void SetTraits(BF::CHandle* object, const ObjectTraits& traits);
     /// Puts an object into conversion state \p state; one that is not converting yet is announced.
     void SetConvertState(BF::CHandle* object, int state);
@@ -108,13 +125,13 @@ public:
     /// unless some already are. \return false for an unknown object
     bool SetSoftClothActive(BF::CHandle* object, bool active);
     /// Makes an object soft cloth at the user's command to the host, outside the panel. Where several materials become
-    /// soft cloth at once, the event that tells of it is sent.
+    /// soft cloth at once, its event is sent.
     void ConvertToSoftCloth(BF::CHandle* object);
     /// Takes all materials of an object out of the soft cloth and switches its physics off.
     /// \return false for an unknown object
     bool CancelSoftCloth(BF::CHandle* object);
 
-    /// How values stand in the journal.
+    /// How the journal shows values.
     JournalText Text() const;
 
     /// Sends an event and records it in the journal. The modes above send theirs; the host controls send any.
@@ -134,7 +151,7 @@ public:
     }
 
 Q_SIGNALS:
-    /// The scene was exchanged for another one; whoever listened to the old one connects anew.
+    /// The scene was exchanged for another one; whoever listened to the old one connects again.
     void SceneReplaced();
     /// Engine, playing, dialog mode, pick mode or traits changed.
     void StateChanged();
@@ -142,11 +159,14 @@ Q_SIGNALS:
     void ProblemTold(const QString& sentence);
     /// The plug-in asked the host to draw the scene again.
     void SceneRefreshRequested();
+    /// The plug-in read the values of one material: these are what the user sees.
+    void ClothRead(const Host::ClothAddress& address);
     /// The plug-in asked for a page of the host's panels.
     void PanelPageRequested(int page, int order, int flags);
 
 private:
     void StepUndoStack(bool forward);
+    void SelectNewObjects(const std::vector<Object*>& existedBefore);
     int ActiveSlotCount(const Object& object) const;
 
     std::unique_ptr<Scene> m_scene;
@@ -156,6 +176,7 @@ private:
     PreparedAnswers m_answers;
     QPointer<QWidget> m_mainWindow;
     QString m_dataFolder;
+    QString m_reason;
     std::unique_ptr<Host::Pictures> m_pictures;
     std::unique_ptr<Host::WeightImages> m_weightImages;
     std::unique_ptr<Host::ImageEditor> m_imageEditor;

@@ -2,6 +2,7 @@
 
 #include "host/images/ImageDecode.h"
 #include "host/images/ImageFormat.h"
+#include "host/scene/SaveFile.h"
 #include "host/services/HostApplication.h"
 #include "host/services/Pictures.h"
 #include "host/services/WeightImages.h"
@@ -37,9 +38,31 @@ QByteArray Content(const QString& file)
     return ReadImageFile(file, error);
 }
 
+/// Whether \p file is what an image editor may be handed. A scene names any files that it likes: one that is no image
+/// could be a program to whoever opens it, and a path that is not absolute an option of the editor.
+bool MayBeLaunched(const QString& file)
+{
+    constexpr qint64 longestHeader = 64;
+    const QFileInfo info(file);
+    QFile image(file);
+    return info.isAbsolute() && info.isNativePath() && info.isFile() && image.open(QIODevice::ReadOnly) &&
+           ReadImageHeader(image.read(longestHeader)).format != ImageFormat::None;
+}
+
+/// The desktop chooses the program by the file's name, so the name has to be an image's, too.
+bool IsImageToTheDesktop(const QString& file)
+{
+    static const QStringList suffixes = QString::fromLatin1(",jpg,jpeg,bmp,gif,png,tga").split(QLatin1Char(','));
+    return suffixes.contains(QFileInfo(file).suffix().toLower());
+}
+
+/// Starts the program itself, without a shell: each file is one argument, whatever is in its name.
 bool Open(const QString& program, const QStringList& files)
 {
     if (program.isEmpty()) {
+        if (!std::all_of(files.begin(), files.end(), &IsImageToTheDesktop)) {
+            return false;
+        }
         return std::all_of(files.begin(), files.end(),
                            [](const QString& file) { return QDesktopServices::openUrl(QUrl::fromLocalFile(file)); });
     }
@@ -83,9 +106,7 @@ ImageEditor::~ImageEditor() = default;
 
 BF::Result ImageEditor::Launch(const QStringList& files)
 {
-    const bool areThere =
-        std::all_of(files.begin(), files.end(), [](const QString& file) { return QFileInfo(file).isFile(); });
-    if (files.isEmpty() || !areThere) {
+    if (files.isEmpty() || !std::all_of(files.begin(), files.end(), &MayBeLaunched)) {
         return BF::Results::Refused;
     }
     // Watched first: a program may be done before this one gets to it.
@@ -115,13 +136,23 @@ QString ImageEditor::FileForWeightImage(const ClothAddress& address)
     const Scene& scene = m_host.CurrentScene();
     const QString name = scene.FindMesh(address.mesh)->name + QLatin1Char('-') +
                          scene.FindMaterial(address.material)->name + QLatin1String("-weights");
-    QFile file(NewFilePath(name, QString::fromLatin1(SuffixOf(ReadImageHeader(bytes).format))));
-    if (file.fileName().isEmpty() || !file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        return {};
+    const QString file = SaveNewFile(name, QString::fromLatin1(SuffixOf(ReadImageHeader(bytes).format)), bytes);
+    if (!file.isEmpty()) {
+        m_weightCopies.insert(file, address);
     }
-    file.close();
-    m_weightCopies.insert(file.fileName(), address);
-    return file.fileName();
+    return file;
+}
+
+QString ImageEditor::SaveNewFile(const QString& name, const QString& suffix, const QByteArray& content)
+{
+    const QString file = NewFilePath(name, suffix);
+    const QString problem = file.isEmpty() ? tr("there is no folder for temporary files") : SaveFile(file, content);
+    if (problem.isNull()) {
+        return file;
+    }
+    m_host.TellProblem(tr("The file \"%1\" for the image editor could not be written: %2.")
+                           .arg(QDir::toNativeSeparators(file.isEmpty() ? name : file), problem));
+    return {};
 }
 
 QString ImageEditor::NewFilePath(const QString& name, const QString& suffix)
@@ -183,9 +214,9 @@ void ImageEditor::TakeChange(const QString& file, const QByteArray& bytes)
     BF::CArrayList<BF::CHandle*> changed;
     const auto copy = m_weightCopies.constFind(file);
     if (copy != m_weightCopies.constEnd()) {
-        BF::CHandle* const object = copy->object;
-        if (m_host.Weights().ReplaceEmbedded(*copy, bytes).IsSuccess()) {
-            changed.Add(object);
+        const ClothAddress address = *copy;
+        if (m_host.Weights().ReplaceEmbedded(address, bytes).IsSuccess()) {
+            changed.Add(address.object);
         }
     } else {
         m_host.Images().Store().ForgetFile(file);

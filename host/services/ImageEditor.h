@@ -21,7 +21,7 @@ namespace Host {
 class HostApplication;
 
 /// The program outside in which the user edits image files, and the watch over the files that were opened in it. When
-/// one is saved, what the scene shows of it is read anew and the host's event is sent.
+/// one is saved, what the scene shows of it is read again and the host's event is sent.
 class ImageEditor : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,8 @@ public:
     const QString& Program() const { return m_program; }
 
     /// Opens \p files in the program and watches them from then on.
-    /// \return 0; 0x80000006 when a file is missing or the program does not start
+    /// \return 0; 0x80000006 when one of them is not the absolute path of a file that begins as an image does, or the
+    ///         program does not start
     BF::Result Launch(const QStringList& files);
 
     /// A file that holds the weight image at \p address: the linked one, or a copy of the embedded image; the image
@@ -43,10 +44,12 @@ public:
     /// \return a null string when there is no image or the copy cannot be written
     QString FileForWeightImage(const ClothAddress& address);
 
-    /// A path for a new file of this session, called after \p name; null when there is no room for any.
-    QString NewFilePath(const QString& name, const QString& suffix);
+    /// Writes \p content into a new file of this session, called after \p name.
+    /// \return its path; a null string, after a message, when it cannot be written
+    QString SaveNewFile(const QString& name, const QString& suffix, const QByteArray& content);
 
 private:
+    QString NewFilePath(const QString& name, const QString& suffix);
     void Watch(const QString& file);
     void OnTouched(const QString& fileOrFolder);
     void CheckTouchedFiles();

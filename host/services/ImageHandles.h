@@ -10,12 +10,12 @@ namespace Host {
 
 class Scene;
 
-/// What an image handle stands for: not for pixels, but for a place in the scene whose picture may change.
+/// What an image handle means: no pixels, but a place in the scene whose picture may change.
 struct PictureKey
 {
     enum class Kind
     {
-        Default, ///< The picture that stands in for none.
+        Default, ///< The picture to show for none.
         Texture, ///< A channel of a material.
         Weight,  ///< The weight image of a material on a mesh.
     };
@@ -45,7 +45,7 @@ class ImageHandles
 public:
     /// The handle of a picture; the same one whenever it is asked for.
     BF::CHandle* Of(const PictureKey& key);
-    /// What \p handle stands for; none for an unknown handle.
+    /// What \p handle means; none for an unknown handle.
     std::optional<PictureKey> Find(const BF::CHandle* handle) const;
     /// How the journal names \p handle; a null string for an unknown one.
     QString NameOf(const BF::CHandle* handle, const Scene& scene) const;

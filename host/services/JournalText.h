@@ -22,7 +22,7 @@ namespace Host {
 class ImageHandles;
 class Scene;
 
-/// How values stand in the call journal. Handles and ids are shown by name, which takes the scene.
+/// How the call journal shows values. Handles and ids are shown by name, which takes the scene.
 class JournalText
 {
 public:
@@ -51,7 +51,7 @@ public:
     QString operator()(const MV::WeightImageState& value) const;
     QString operator()(const std::map<std::wstring, BF::CArrayList<std::wstring>>& value) const;
 
-    /// Enumerations by number, as the interface tells them.
+    /// Enumerations by number, as in the interface.
     template <class T, std::enable_if_t<std::is_enum_v<T>, int> = 0>
     QString operator()(T value) const
     {

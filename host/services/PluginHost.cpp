@@ -6,6 +6,7 @@
 #include <MVPluginQt/SectionInterface.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonObject>
 
@@ -26,7 +27,14 @@ bool PluginHost::Start(const QString& libraryFile, MV::ECompatibleApp app)
     Stop();
     const QString iid = QString::fromLatin1(qobject_interface_iid<MV::CPluginInterface*>());
     m_loader.setFileName(QFileInfo(libraryFile).absoluteFilePath());
-    if (m_loader.metaData().value(QLatin1String("IID")).toString() != iid) {
+    const QString foundIid = m_loader.metaData().value(QLatin1String("IID")).toString();
+    if (foundIid.isEmpty()) {
+        m_loader.load(); // nothing is loaded; the loader only says why
+        m_error = QCoreApplication::translate("PluginHost", "%1 is not a plug-in for this host: %2")
+                      .arg(libraryFile, m_loader.errorString());
+        return false;
+    }
+    if (foundIid != iid) {
         m_error = QCoreApplication::translate("PluginHost", "%1 is not a plug-in for this host.").arg(libraryFile);
         return false;
     }
@@ -45,6 +53,12 @@ bool PluginHost::Start(const QString& libraryFile, MV::ECompatibleApp app)
         m_error = QCoreApplication::translate("PluginHost", "%1 did not start (0x%2).")
                       .arg(libraryFile)
                       .arg(quint32(m_initializeResult.Code()), 8, 16, QLatin1Char('0'));
+        const QFileInfo library(libraryFile);
+        const QFileInfo resources(library.absoluteDir(), library.completeBaseName() + QLatin1String(".rcc"));
+        if (!resources.exists()) {
+            m_error += QLatin1Char(' ') + QCoreApplication::translate("PluginHost", "There is no resource file \"%1\".")
+                                              .arg(QDir::toNativeSeparators(resources.absoluteFilePath()));
+        }
         return false;
     }
     return true;

@@ -1,28 +1,20 @@
 #include "host/services/SceneService.h"
 
 #include "host/services/SceneServiceReads.h"
+#include "host/services/UserDialogs.h"
+#include "panel/HostCodes.h"
 
 #include <QDir>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace Host {
 
 namespace {
 
-constexpr int presetFolder = 3;
-constexpr int profileFolder = 72;
-constexpr int softClothPhysics = 3;
-
-/// Asks for one of the formats that images can be written in. \return an empty path when the user cancelled
-QString AskForSavePath(QWidget* parent, const QString& title, const QString& defaultName)
-{
-    QFileDialog dialog(parent, title, {}, QStringLiteral("Images (*.png *.jpg *.jpeg *.bmp)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("png"));
-    dialog.selectFile(defaultName);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constFirst() : QString();
-}
+using MV::presetDataFolder;
+using MV::profileFolder;
+using MV::softClothPhysics;
 
 } // namespace
 
@@ -111,7 +103,7 @@ MV::EPickMode SceneService::GetCurrentPickMode()
 BF::Result SceneService::GetDataFolderPath(std::wstring& path, int kind)
 {
     return Record("GetDataFolderPath", {Out(path), In(kind)}, [&] {
-        if (kind != presetFolder || App().DataFolder().isEmpty()) {
+        if (kind != presetDataFolder || App().DataFolder().isEmpty()) {
             return BF::Results::InvalidArgument;
         }
         path = QString(QDir::toNativeSeparators(App().DataFolder()) + QDir::separator()).toStdWString();
@@ -147,7 +139,9 @@ BF::Result SceneService::GetSaveImageFileName(QString& path, int kind1, int kind
         if (prepared || App().Answers().unattended) {
             path = prepared.value_or(QString());
         } else {
-            path = AskForSavePath(App().MainWindow(), App().tr("Save Image"), defaultName);
+            path = AskForFile(App().MainWindow(), {HostApplication::tr("Save Image"),
+                                                   HostApplication::tr("Images (*.png *.jpg *.jpeg *.bmp)"), true,
+                                                   QStringLiteral("png"), defaultName});
         }
         return BF::Results::Success;
     });
@@ -160,8 +154,11 @@ BF::Result SceneService::GetOpenImageFileName(QString& path, int kind1, int kind
         if (prepared || App().Answers().unattended) {
             path = prepared.value_or(QString());
         } else {
-            path = QFileDialog::getOpenFileName(App().MainWindow(), App().tr("Open Image"), {},
-                                                QStringLiteral("Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)"));
+            path = AskForFile(App().MainWindow(), {HostApplication::tr("Open Image"),
+                                                   HostApplication::tr("Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)"),
+                                                   false,
+                                                   {},
+                                                   {}});
         }
         return BF::Results::Success;
     });
@@ -198,7 +195,8 @@ BF::Result SceneService::GetDefaultFolder(QString& folder, int kind)
         if (kind != profileFolder) {
             return BF::Results::InvalidArgument;
         }
-        folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        folder = QFileInfo(documents).isDir() ? documents : QDir::homePath();
         return BF::Results::Success;
     });
 }

@@ -5,7 +5,7 @@
 
 namespace Host {
 
-/// MV::CSceneService over the scene. The operations are told in the interface.
+/// MV::CSceneService over the scene. The interface documents the operations.
 class SceneService final : public MV::CSceneService, private ServiceBase
 {
 public:
@@ -69,14 +69,14 @@ public:
     Id GetMaterialIdByIndex(BF::CHandle* object, std::size_t index) override;
 
 private:
-    /// Records \p operation and answers with what \p read makes of the object, or a failure for an unknown one.
+    /// Records \p operation and returns what \p read makes of the object, or a failure for an unknown one.
     template <class Read>
     BF::Result ReadObject(const char* operation, const std::vector<JournalArgument>& arguments, BF::CHandle* object,
                           Read read) const;
     template <class Read>
     BF::Result ReadSlot(const char* operation, BF::CHandle* object, Id mesh, Id material,
                         std::vector<JournalArgument> furtherArguments, Read read) const;
-    /// Records an operation on a texture of a material and answers with what \p use makes of it, or a failure for an
+    /// Records an operation on a texture of a material and returns what \p use makes of it, or a failure for an
     /// unknown material.
     template <class Use>
     BF::Result UseTexture(const char* operation, Id material, MV::ETextureChannel channel,

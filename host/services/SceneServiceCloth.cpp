@@ -27,8 +27,10 @@ BF::Result SceneService::GetUseGlobalGravity(BF::CHandle* object, Id mesh, Id ma
 BF::Result SceneService::GetSoftClothProperty(BF::CHandle* object, Id mesh, Id material,
                                               MV::SoftClothPropertyData& data)
 {
-    return ReadSlot("GetSoftClothProperty", object, mesh, material, {Out(data)},
-                    [&](const MaterialSlot& slot) { data = slot.cloth.property; });
+    return ReadSlot("GetSoftClothProperty", object, mesh, material, {Out(data)}, [&](const MaterialSlot& slot) {
+        data = slot.cloth.property;
+        Q_EMIT App().ClothRead({object, mesh, material});
+    });
 }
 
 BF::Result SceneService::GetSoftClothCollision(BF::CHandle* object, Id mesh, Id material,

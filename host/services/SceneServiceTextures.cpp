@@ -4,6 +4,7 @@
 #include "host/images/UvLayout.h"
 #include "host/services/ImageEditor.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImage>
 
@@ -202,14 +203,18 @@ BF::Result SceneService::WriteUvTexture(const BF::CHandle* objectOrMesh, const M
     }
     const ImageStore::Image stored = App().Images().Store().Get(texture);
     if (stored->image.isNull()) {
-        App().TellProblem(UnreadableImageText(
-            texture.filePath.isEmpty() ? App().tr("embedded texture of %1").arg(material.name) : texture.filePath,
-            stored->error));
+        App().TellProblem(UnreadableImageText(texture.filePath.isEmpty()
+                                                  ? HostApplication::tr("embedded texture of %1").arg(material.name)
+                                                  : texture.filePath,
+                                              stored->error));
         return BF::Results::ResourceFailure;
     }
     const QImage layout = DrawUvLayout(stored->image, SlotsWith(material.id, *FindOwner(objectOrMesh), objectOrMesh));
-    file = App().Editor().NewFilePath(material.name + QLatin1String("-uv"), QStringLiteral("png"));
-    return layout.save(file, "PNG") ? BF::Results::Success : BF::Results::ResourceFailure;
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    layout.save(&png, "PNG");
+    file = App().Editor().SaveNewFile(material.name + QLatin1String("-uv"), QStringLiteral("png"), png.data());
+    return file.isEmpty() ? BF::Results::ResourceFailure : BF::Results::Success;
 }
 
 /// Opens the texture where it is, also where that is a file: the materials' other textures may be the embedded ones.

@@ -71,9 +71,13 @@ protected:
     template <class Body>
     BF::Result Record(const char* operation, const std::vector<JournalArgument>& arguments, Body body) const
     {
-        const qint64 entry = Begin(operation, arguments);
+        const qint64 entry = Begin(operation, arguments, true);
+        const auto atEnd = m_host.Faults().Enter(QLatin1String(operation));
         const auto fault = m_host.Faults().Consult(QLatin1String(operation));
         const BF::Result result = fault ? *fault : body();
+        if (atEnd) {
+            atEnd();
+        }
         End(entry, arguments, m_host.Text()(result));
         return result;
     }
@@ -83,18 +87,23 @@ protected:
     auto RecordValue(const char* operation, const std::vector<JournalArgument>& arguments, Body body) const
         -> decltype(body())
     {
-        const qint64 entry = Begin(operation, arguments);
+        const qint64 entry = Begin(operation, arguments, false);
+        const auto atEnd = m_host.Faults().Enter(QLatin1String(operation));
         const auto value = body();
+        if (atEnd) {
+            atEnd();
+        }
         End(entry, arguments, m_host.Text()(value));
         return value;
     }
 
 private:
-    qint64 Begin(const char* operation, const std::vector<JournalArgument>& arguments) const
+    qint64 Begin(const char* operation, const std::vector<JournalArgument>& arguments, bool hasStatus) const
     {
         JournalEntry entry;
         entry.service = m_name;
         entry.operation = QLatin1String(operation);
+        entry.hasStatus = hasStatus;
         for (const JournalArgument& argument : arguments) {
             entry.arguments.append(argument.Before());
         }

@@ -16,7 +16,7 @@ BF::Result SoftClothService::ApplySingleMaterialSoftCloth(BF::CHandle* object, I
             return BF::Results::InvalidArgument;
         }
         SceneEdit edit;
-        edit.text = App().tr("Make soft cloth");
+        edit.text = HostApplication::tr("Make soft cloth");
         ClothState cloth = slot->cloth;
         cloth.active = true;
         edit.cloths.push_back({address, {}, cloth});

@@ -1,6 +1,7 @@
 #include "host/services/SoftIniProfile.h"
 
 #include "host/scene/StateFields.h"
+#include "ui/IniFile.h"
 
 #include <QFileInfo>
 #include <QSettings>
@@ -73,8 +74,11 @@ std::optional<ClothChange> ReadSoftIni(const QString& path)
     if (!QFileInfo(path).isFile()) {
         return std::nullopt;
     }
-    QSettings file(path, QSettings::IniFormat);
-    file.setIniCodec("UTF-8");
+    MV::CIniReader reader(path);
+    if (!reader.IsRead()) {
+        return std::nullopt;
+    }
+    QSettings& file = reader.Settings();
     std::vector<ClothChange> changes;
     const QString gravity = QStringLiteral("useGlobalGravity");
     if (file.contains(gravity)) {

@@ -1,29 +1,9 @@
 #include "host/services/UiService.h"
 
 #include "host/services/ImageEditor.h"
-
-#include <QMessageBox>
+#include "host/services/UserDialogs.h"
 
 namespace Host {
-
-namespace {
-
-/// What closing a box without a choice counts as: Cancel where there is one.
-int EscapeAnswer(int buttons)
-{
-    return (buttons & QMessageBox::Cancel) != 0 ? int(QMessageBox::Cancel) : int(QMessageBox::Ok);
-}
-
-int AskUser(const QString& text, const QString& title, QWidget* parent, int icon, int buttons, int defaultButton)
-{
-    QMessageBox box(QMessageBox::Icon(icon), title, text, QMessageBox::StandardButtons(buttons), parent);
-    if (defaultButton != 0) {
-        box.setDefaultButton(QMessageBox::StandardButton(defaultButton));
-    }
-    return box.exec();
-}
-
-} // namespace
 
 UiService::UiService(HostApplication& host)
     : ServiceBase(host, "Ui")
@@ -76,14 +56,22 @@ BF::Result UiService::LaunchImageEditor(const BF::CArrayList<std::wstring>& file
 int UiService::ShowMessageBox(const QString& text, const QString& title, QWidget* parent, int icon, int buttons,
                               int defaultButton)
 {
-    return RecordValue(
-        "ShowMessageBox", {In(text), In(title), In(parent), In(icon), In(buttons), In(defaultButton)}, [&] {
-            if (const auto prepared = App().Answers().TakeButton()) {
-                return *prepared;
-            }
-            return App().Answers().unattended ? EscapeAnswer(buttons)
-                                              : AskUser(text, title, parent, icon, buttons, defaultButton);
-        });
+    return RecordValue("ShowMessageBox", {In(text), In(title), In(parent), In(icon), In(buttons), In(defaultButton)},
+                       [&] {
+                           const QString kept = App().TakeReason(); // explains the next box or none
+                           const QString reason = text.isEmpty() ? kept : QString();
+                           const UserQuestion question{title, reason.isNull() ? text : reason, QMessageBox::Icon(icon),
+                                                       QMessageBox::StandardButtons(buttons),
+                                                       QMessageBox::StandardButton(defaultButton)};
+                           const auto prepared = App().Answers().TakeButton();
+                           if (!prepared && !App().Answers().unattended) {
+                               return int(AskUser(parent, question));
+                           }
+                           if (!reason.isNull()) {
+                               App().TellProblem(reason); // no box shows it
+                           }
+                           return prepared.value_or(int(question.EscapeAnswer()));
+                       });
 }
 
 BF::Result UiService::ShowPanelPage(int page, int order, int flags)

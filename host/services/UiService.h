@@ -5,7 +5,7 @@
 
 namespace Host {
 
-/// MV::CUiService: modes of the scene, real message boxes. The operations are told in the interface.
+/// MV::CUiService: modes of the scene, real message boxes. The interface documents the operations.
 class UiService final : public MV::CUiService, private ServiceBase
 {
 public:

@@ -4,6 +4,7 @@
 #include "host/images/ImageFormat.h"
 #include "host/images/WeightAdjust.h"
 #include "host/images/WeightSampling.h"
+#include "host/scene/SaveFile.h"
 #include "host/services/HostApplication.h"
 #include "host/services/Pictures.h"
 
@@ -11,7 +12,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImageWriter>
-#include <QSaveFile>
 
 #include <cstdlib>
 
@@ -59,9 +59,13 @@ BF::Result WeightImages::Load(const ClothAddress& address, const QString& path)
     QString error;
     const int moving = CountMoving(address, cloth.weight, error);
     if (!error.isEmpty()) {
-        m_host.TellProblem(UnreadableImageText(path, error));
-        PushRefusal(text);
-        return BF::Results::ResourceFailure;
+        return RefuseLoad(text, UnreadableImageText(path, error));
+    }
+    const Mesh& mesh = *m_host.CurrentScene().FindMesh(address.mesh);
+    if (moving == 0 && mesh.uvs.empty()) {
+        return RefuseLoad(text, HostApplication::tr("The mesh \"%1\" has no texture coordinates, which would say where "
+                                                    "the image lies on it.")
+                                    .arg(mesh.name));
     }
     if (moving == 0) {
         edit.refused = true;
@@ -176,10 +180,7 @@ BF::Result WeightImages::Save(const ClothAddress& address, const QString& path)
     QString error;
     const QByteArray bytes = EncodeForSaving(*weight, path, error);
     if (error.isEmpty()) {
-        QSaveFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-            error = file.errorString();
-        }
+        error = SaveFile(path, bytes);
     }
     if (!error.isEmpty()) {
         m_host.TellProblem(HostApplication::tr("The weight image could not be saved as \"%1\": %2.")
@@ -189,9 +190,28 @@ BF::Result WeightImages::Save(const ClothAddress& address, const QString& path)
     return BF::Results::Success;
 }
 
+std::optional<int> WeightImages::MovingVertices(const ClothAddress& address)
+{
+    const WeightImage* weight = m_host.Images().WeightOf(address);
+    if (!weight || weight->IsNone()) {
+        return std::nullopt;
+    }
+    QString error;
+    const int moving = CountMoving(address, *weight, error);
+    return error.isEmpty() ? std::make_optional(moving) : std::nullopt;
+}
+
 bool WeightImages::IsCallersAdjust(const ClothAddress& address) const
 {
     return m_adjusting.run != SceneEdit::noRun && !m_adjusting.wasRefused && IsSame(m_adjusting.address, address);
+}
+
+/// The caller shows a box that says nothing of its own, and takes the step back.
+BF::Result WeightImages::RefuseLoad(const QString& text, const QString& reason)
+{
+    m_host.ExplainNextBox(reason);
+    PushRefusal(text);
+    return BF::Results::ResourceFailure;
 }
 
 void WeightImages::PushRefusal(const QString& text)
@@ -203,7 +223,7 @@ void WeightImages::PushRefusal(const QString& text)
 }
 
 /// How many vertices move under \p weight at an address that exists.
-/// \param error  why the image cannot be read; then the answer is 0
+/// \param error  why the image cannot be read; then the result is 0
 int WeightImages::CountMoving(const ClothAddress& address, const WeightImage& weight, QString& error)
 {
     if (!error.isEmpty()) {

@@ -7,14 +7,16 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace Host {
 
 class HostApplication;
 
 /// The edits of weight images. Each that succeeds is one undo step; 1 means that nothing had to be done.
 ///
-/// What is refused for its content is stored all the same, as a step marked as refused: whoever asked for it tells the
-/// user and then takes it back.
+/// What is refused for its content is stored all the same, as a step marked as refused: whoever asked for it informs
+/// the user and then takes it back.
 class WeightImages
 {
 public:
@@ -30,7 +32,8 @@ public:
     /// one with soft cloth physics.
     /// \return 0; 1 when more than mostMovingVertices move, which is for the user to decide; 0x80000006 when none
     /// moves;
-    ///         another failure when the file cannot be read. After all but 0 there is one step to take back.
+    ///         another failure when the file cannot be read or the mesh has no texture coordinates, and the reason is
+    ///         in the box that the caller shows then. After all but 0 there is one step to take back.
     BF::Result Load(const ClothAddress& address, const QString& path);
     BF::Result Delete(const ClothAddress& address);
     /// Puts the linked file's content into the material and forgets the file.
@@ -50,6 +53,10 @@ public:
     /// \return 0, or 0x80000006 when it cannot be written
     BF::Result Save(const ClothAddress& address, const QString& path);
 
+    /// How many vertices move under the weight image of a material; none for an unknown one and without an image that
+    /// can be read.
+    std::optional<int> MovingVertices(const ClothAddress& address);
+
     /// True while brightness and contrast are what the caller last set: between a write that is not final and the
     /// next final one, unless something was refused or undone.
     bool IsCallersAdjust(const ClothAddress& address) const;
@@ -67,6 +74,7 @@ private:
         bool wasRefused = false;
     };
 
+    BF::Result RefuseLoad(const QString& text, const QString& reason);
     int CountMoving(const ClothAddress& address, const WeightImage& weight, QString& error);
     BF::Result Push(const ClothAddress& address, const ClothState& cloth, const QString& text);
     QByteArray EncodeForSaving(const WeightImage& weight, const QString& path, QString& error);

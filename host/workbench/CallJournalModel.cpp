@@ -19,6 +19,11 @@ CallJournalModel::CallJournalModel(CallJournal& journal, QObject* parent)
     });
     connect(&journal, &CallJournal::EntryChanged, this,
             [this](int index) { Q_EMIT dataChanged(this->index(index, 0), this->index(index, ColumnCount - 1)); });
+    connect(&journal, &CallJournal::AboutToDropEntries, this, [this](int count) {
+        beginRemoveRows({}, 0, count - 1);
+        m_rows -= count;
+    });
+    connect(&journal, &CallJournal::EntriesDropped, this, [this] { endRemoveRows(); });
     connect(&journal, &CallJournal::Cleared, this, [this] {
         beginResetModel();
         m_rows = 0;

@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -15,6 +16,26 @@
 
 namespace Host {
 
+namespace {
+
+/// Says how many calls are not in the list any more, once there are any.
+QLabel* DroppedLabel(const CallJournal& journal, QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(QStringLiteral("hostCallsDropped"));
+    label->setWordWrap(true);
+    label->hide();
+    const auto show = [&journal, label] {
+        label->setText(journal.DroppedText());
+        label->setVisible(!label->text().isEmpty());
+    };
+    QObject::connect(&journal, &CallJournal::EntriesDropped, label, show);
+    QObject::connect(&journal, &CallJournal::Cleared, label, show);
+    return label;
+}
+
+} // namespace
+
 HostCallsView::HostCallsView(CallJournal& journal, QWidget* parent)
     : QWidget(parent)
     , m_filter(new QLineEdit(this))
@@ -22,6 +43,7 @@ HostCallsView::HostCallsView(CallJournal& journal, QWidget* parent)
     , m_table(new QTableView(this))
 {
     m_filter->setObjectName(QStringLiteral("hostCallsFilter"));
+    m_filter->setAccessibleName(tr("Filter of the host calls"));
     m_filter->setPlaceholderText(tr("Filter calls, for example SetSoftCloth"));
     m_filter->setClearButtonEnabled(true);
     m_filter->setToolTip(tr("Shows only the calls that contain this text"));
@@ -32,6 +54,7 @@ HostCallsView::HostCallsView(CallJournal& journal, QWidget* parent)
     connect(m_filter, &QLineEdit::textChanged, m_filtered, &QSortFilterProxyModel::setFilterFixedString);
 
     m_table->setObjectName(QStringLiteral("hostCallsTable"));
+    m_table->setAccessibleName(tr("Host calls"));
     m_table->setModel(m_filtered);
     m_table->setAlternatingRowColors(true);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -57,6 +80,7 @@ HostCallsView::HostCallsView(CallJournal& journal, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addLayout(tools);
+    layout->addWidget(DroppedLabel(journal, this));
     layout->addWidget(m_table);
 
     // Follows the newest call unless the user has scrolled away from it.

@@ -1,12 +1,22 @@
 #include "host/workbench/MainWindow.h"
 
-#include "host/import/ModelImport.h"
-#include "host/scene/SceneFile.h"
-#include "host/services/ImageEditor.h"
+#include "host/services/UserDialogs.h"
 #include "host/workbench/HostCallsView.h"
 #include "host/workbench/HostControls.h"
+#include "host/workbench/LanguageMenu.h"
+#include "host/workbench/Languages.h"
 #include "host/workbench/ModifyPanel.h"
 #include "host/workbench/SceneTree.h"
+#include "host/workbench/window/DialogPlace.h"
+#include "host/workbench/window/EditMenu.h"
+#include "host/workbench/window/MovingVertices.h"
+#include "host/workbench/window/PanelActions.h"
+#include "host/workbench/window/PanelHint.h"
+#include "host/workbench/window/PickGuide.h"
+#include "host/workbench/window/SceneFiles.h"
+#include "host/workbench/window/UndoKeys.h"
+#include "host/workbench/window/UserActions.h"
+#include "host/workbench/window/WindowState.h"
 
 #include <MVPluginQt/SectionInterface.h>
 
@@ -14,18 +24,16 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QInputDialog>
+#include <QHash>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QProgressDialog>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace Host {
 
@@ -33,18 +41,12 @@ namespace {
 
 constexpr MV::ECompatibleApp applications[] = {MV::ECompatibleApp::FamilyA, MV::ECompatibleApp::FamilyB,
                                                MV::ECompatibleApp::None};
+constexpr int messageMilliseconds = 5000;
 
 int IndexOf(MV::ECompatibleApp app)
 {
     return int(std::find(std::begin(applications), std::end(applications), app) - std::begin(applications));
 }
-
-QString SceneFilter()
-{
-    return MainWindow::tr("Soft cloth scenes (*.clothscene)");
-}
-
-const QString imageEditorKey = QStringLiteral("imageEditor");
 
 QString ExpandKey(MV::CSectionInterface& section)
 {
@@ -53,28 +55,37 @@ QString ExpandKey(MV::CSectionInterface& section)
 
 } // namespace
 
-MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent)
+MainWindow::MainWindow(std::shared_ptr<HostApplication> host)
+    : m_sharedHost(std::move(host))
+    , m_host(*m_sharedHost)
     , m_pluginHost(m_host)
+    , m_files(new SceneFiles(m_host, *this))
+    , m_edit(new EditMenu(m_host, *this))
 {
     setObjectName(QStringLiteral("workbench"));
     m_host.SetMainWindow(this);
     CreateDocks();
-    CreateActions();
-    resize(1440, 860);
-    connect(&m_host, &HostApplication::SceneReplaced, this, [this] {
-        connect(&m_host.CurrentScene().UndoStack(), &QUndoStack::cleanChanged, this, &MainWindow::ShowTitle);
-        ShowTitle();
-    });
-    connect(&m_host.CurrentScene().UndoStack(), &QUndoStack::cleanChanged, this, &MainWindow::ShowTitle);
+    CreateStatusBar();
+    CreateViewMenu();
+    new UserActions(m_host, this);
+    new UndoKeys(m_host, this);
+    new DialogPlace(m_modifyPanel, this);
+    resize(FirstWindowSize(screen()->availableGeometry()));
+    connect(&m_host, &HostApplication::ClothRead, this, [this](const ClothAddress& address) { m_shown = address; });
+    connect(m_files, &SceneFiles::Failed, this, &MainWindow::Complain);
+    connect(m_files, &SceneFiles::Done, this,
+            [this](const QString& sentence) { statusBar()->showMessage(sentence, messageMilliseconds); });
     connect(&m_host, &HostApplication::ProblemTold, this, &MainWindow::Complain);
-    ShowTitle();
+    connect(&m_host, &HostApplication::StateChanged, this, &MainWindow::ShowHint);
+    connect(&m_host, &HostApplication::SceneReplaced, this, &MainWindow::ConnectScene);
+    ConnectScene();
 }
 
 MainWindow::~MainWindow()
 {
     if (!m_unattended) {
         KeepExpandStates();
+        KeepWindowState(*this);
     }
 }
 
@@ -88,7 +99,9 @@ void MainWindow::CreateDocks()
         return dock;
     };
     setCentralWidget(new HostCallsView(m_host.Journal(), this));
-    QDockWidget* tree = addDock(tr("Scene"), "sceneDock", new SceneTree(m_host), Qt::LeftDockWidgetArea);
+    auto* sceneTree = new SceneTree(m_host);
+    m_edit->DeleteFrom(sceneTree);
+    QDockWidget* tree = addDock(tr("Scene"), "sceneDock", sceneTree, Qt::LeftDockWidgetArea);
     m_controls = new HostControls(m_host);
     QDockWidget* controls = addDock(tr("Host Controls"), "controlsDock", m_controls, Qt::LeftDockWidgetArea);
     m_modifyPanel = new ModifyPanel;
@@ -96,6 +109,12 @@ void MainWindow::CreateDocks()
     resizeDocks({tree, controls}, {260, 480}, Qt::Vertical);
     resizeDocks({tree, modify}, {270, 376}, Qt::Horizontal);
     connect(m_controls, &HostControls::ApplicationChosen, this, &MainWindow::RestartPlugin);
+}
+
+void MainWindow::CreateStatusBar()
+{
+    new PickGuide(m_host, *this);
+    statusBar()->addPermanentWidget(new MovingVertices(m_host, this));
     m_panelPage = new QLabel(this);
     m_panelPage->setObjectName(QStringLiteral("panelPage"));
     m_panelPage->setToolTip(tr("The page of the host's panels that the plug-in asked for last"));
@@ -105,78 +124,25 @@ void MainWindow::CreateDocks()
     });
 }
 
-void MainWindow::CreateActions()
+void MainWindow::CreateViewMenu()
 {
-    CreateFileActions();
-    CreateEditActions();
+    m_languageMenu = new LanguageMenu(this);
+    m_edit->AddMenu(m_languageMenu);
+    connect(m_languageMenu, &LanguageMenu::Chosen, this, &MainWindow::ChooseLanguage);
     QMenu* view = menuBar()->addMenu(tr("&View"));
+    view->setObjectName(QStringLiteral("viewMenu"));
+    view->addAction((new PanelActions(m_host, *this))->WeightMapDialog());
+    view->addSeparator();
     const auto docks = findChildren<QDockWidget*>();
     for (const QDockWidget* dock : docks) {
         view->addAction(dock->toggleViewAction());
     }
 }
 
-void MainWindow::CreateFileActions()
-{
-    QMenu* file = menuBar()->addMenu(tr("&File"));
-    const auto add = [&](const QString& text, const QKeySequence& key, auto run) {
-        QAction* action = file->addAction(text, this, run);
-        action->setShortcut(key);
-    };
-    add(tr("&New Scene"), QKeySequence::New, [this] {
-        if (MayDiscardScene()) {
-            NewScene();
-        }
-    });
-    add(tr("&Open Scene…"), QKeySequence::Open, [this] { ChooseScene(); });
-    add(tr("&Save Scene"), QKeySequence::Save, [this] { SaveOrChoose(); });
-    add(tr("Save Scene &As…"), QKeySequence::SaveAs, [this] { ChooseAndSave(); });
-    file->addSeparator();
-    add(tr("&Import Model…"), QKeySequence(Qt::CTRL + Qt::Key_I), [this] { ChooseModel(); });
-    file->addSeparator();
-    add(tr("&Quit"), QKeySequence::Quit, [this] { close(); });
-}
-
-void MainWindow::CreateEditActions()
-{
-    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-    QAction* undo = edit->addAction(tr("&Undo"), this, [this] { m_host.Undo(); });
-    undo->setObjectName(QStringLiteral("undoAction"));
-    undo->setShortcut(QKeySequence::Undo);
-    QAction* redo = edit->addAction(tr("&Redo"), this, [this] { m_host.Redo(); });
-    redo->setObjectName(QStringLiteral("redoAction"));
-    redo->setShortcut(QKeySequence::Redo);
-    const auto follow = [this, undo, redo] {
-        const QUndoStack& stack = m_host.CurrentScene().UndoStack();
-        undo->setEnabled(stack.canUndo());
-        undo->setText(stack.canUndo() ? tr("&Undo %1").arg(stack.undoText()) : tr("&Undo"));
-        redo->setEnabled(stack.canRedo());
-        redo->setText(stack.canRedo() ? tr("&Redo %1").arg(stack.redoText()) : tr("&Redo"));
-    };
-    const auto connectStack = [this, follow] {
-        connect(&m_host.CurrentScene().UndoStack(), &QUndoStack::indexChanged, this, follow);
-        follow();
-    };
-    connect(&m_host, &HostApplication::SceneReplaced, this, connectStack);
-    connectStack();
-
-    edit->addSeparator();
-    QAction* remove = edit->addAction(tr("&Delete Object"), this, [this] {
-        const QVector<BF::CHandle*> selected = m_host.CurrentScene().Selection();
-        for (BF::CHandle* object : selected) {
-            m_host.DeleteObject(object);
-        }
-    });
-    remove->setShortcut(QKeySequence::Delete);
-
-    edit->addSeparator();
-    edit->addAction(tr("Image &Editor…"), this, &MainWindow::ChooseImageEditor)
-        ->setObjectName(QStringLiteral("imageEditorAction"));
-}
-
 bool MainWindow::StartPlugin(const QString& libraryFile, MV::ECompatibleApp app)
 {
     m_libraryFile = libraryFile;
+    m_app = app;
     m_controls->ShowApplication(IndexOf(app));
     const bool started = m_pluginHost.Start(libraryFile, app);
     m_modifyPanel->SetSections(m_pluginHost.Sections());
@@ -191,139 +157,107 @@ bool MainWindow::StartPlugin(const QString& libraryFile, MV::ECompatibleApp app)
 
 void MainWindow::RestartPlugin(int application)
 {
-    const QVector<BF::CHandle*> selected = m_host.CurrentScene().Selection();
-    m_host.Select({});
-    StartPlugin(m_libraryFile, applications[application]);
-    m_host.Select(selected);
+    StartPluginAgain(*this, m_libraryFile, applications[application]);
 }
 
-bool MainWindow::ImportModel(const QString& path)
+/// Stops the plug-in of \p from, which may be this window, and starts it here: the same object is selected, the same
+/// material is edited, and the sections are unfolded that were.
+bool MainWindow::StartPluginAgain(MainWindow& from, const QString& libraryFile, MV::ECompatibleApp app)
 {
-    QProgressDialog progress(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100, this);
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(500);
-    ImportResult result = Host::ImportModel(path, [&progress](double done) {
-        progress.setValue(int(done * 100));
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        return !progress.wasCanceled();
-    });
-    progress.reset();
-    if (result.cancelled) {
-        statusBar()->showMessage(tr("Import cancelled"), 5000);
-        return false;
+    const QVector<BF::CHandle*> selected = m_host.CurrentScene().Selection();
+    const MV::EDialogMode dialogMode = m_host.CurrentScene().dialogMode;
+    const ClothAddress shown = from.m_shown;
+    QHash<int, bool> expanded;
+    const auto before = from.m_pluginHost.Sections();
+    for (MV::CSectionInterface* section : before) {
+        expanded.insert(section->GetSectionOrder(), section->GetSectionExpandState());
     }
-    if (!result.object) {
-        Complain(result.error);
-        return false;
+    m_host.Select({});
+    from.m_pluginHost.Stop();
+    const bool started = StartPlugin(libraryFile, app);
+    const auto after = m_pluginHost.Sections();
+    for (MV::CSectionInterface* section : after) {
+        section->SetSectionExpandState(expanded.value(section->GetSectionOrder(), true));
     }
-    m_host.LoadImages(m_host.AddModel(std::move(*result.object)));
-    return true;
+    m_host.Select(selected);
+    ShowMaterialAgain(shown);
+    m_host.SetDialogMode(dialogMode);
+    return started;
+}
+
+/// A panel that has just started edits the first material. The one that was edited before is picked again, which takes
+/// the weight map dialog's mode.
+void MainWindow::ShowMaterialAgain(const ClothAddress& shown)
+{
+    const Object* object = m_host.CurrentScene().FindObject(shown.object);
+    if (!object || m_shown.object != shown.object || m_shown.material == shown.material) {
+        return;
+    }
+    const auto material = std::find_if(object->materials.begin(), object->materials.end(),
+                                       [&shown](const Material& candidate) { return candidate.id == shown.material; });
+    if (material != object->materials.end()) {
+        m_host.SetDialogMode(MV::EDialogMode::WeightMap);
+        m_host.PickMaterial(shown.object, int(material - object->materials.begin()));
+    }
+}
+
+void MainWindow::OfferLanguages(const Languages& languages)
+{
+    m_languageMenu->Offer(languages);
+}
+
+void MainWindow::ChooseLanguage(const QString& code)
+{
+    if (!m_unattended) {
+        Languages::Remember(code);
+    }
+    Q_EMIT LanguageChosen(code);
+}
+
+void MainWindow::TakeOver(MainWindow& old)
+{
+    if (old.m_unattended) {
+        SetUnattended();
+    }
+    m_files->TakeOver(*old.m_files);
+    restoreGeometry(old.saveGeometry());
+    restoreState(old.saveState());
+    setVisible(old.isVisible());
+    StartPluginAgain(old, old.m_libraryFile, old.m_app);
+}
+
+bool MainWindow::ImportModel(const QString& path, const std::optional<LengthUnit>& unit)
+{
+    return m_files->Import(path, unit);
 }
 
 bool MainWindow::OpenScene(const QString& path)
 {
-    std::unique_ptr<Scene> scene;
-    const SceneFileResult result = LoadScene(path, scene);
-    if (!result.ok) {
-        Complain(result.error);
-        return false;
-    }
-    m_scenePath = path;
-    m_host.ReplaceScene(std::move(scene), MV::EFileType::Scene);
-    for (const Object* object : m_host.CurrentScene().Objects()) {
-        m_host.LoadImages(object->handle);
-    }
-    return true;
+    return m_files->Open(path);
 }
 
 bool MainWindow::SaveScene(const QString& path)
 {
-    const SceneFileResult result = Host::SaveScene(m_host.CurrentScene(), path);
-    if (!result.ok) {
-        Complain(result.error);
-        return false;
-    }
-    m_scenePath = path;
-    m_host.CurrentScene().UndoStack().setClean();
-    ShowTitle();
-    statusBar()->showMessage(tr("Saved %1").arg(QFileInfo(path).fileName()), 5000);
-    return true;
+    return m_files->Save(path);
 }
 
 void MainWindow::NewScene()
 {
-    m_scenePath.clear();
-    m_host.ReplaceScene(std::make_unique<Scene>(), MV::EFileType::Scene);
-}
-
-void MainWindow::ChooseModel()
-{
-    const QString suffixes = ImportableSuffixes().join(QLatin1String(" *."));
-    const QString path = QFileDialog::getOpenFileName(this, tr("Import Model"), {}, tr("Models (*.%1)").arg(suffixes));
-    if (!path.isEmpty()) {
-        ImportModel(path);
-    }
-}
-
-void MainWindow::ChooseScene()
-{
-    if (!MayDiscardScene()) {
-        return;
-    }
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open Scene"), m_scenePath, SceneFilter());
-    if (!path.isEmpty()) {
-        OpenScene(path);
-    }
-}
-
-bool MainWindow::SaveOrChoose()
-{
-    return m_scenePath.isEmpty() ? ChooseAndSave() : SaveScene(m_scenePath);
-}
-
-bool MainWindow::ChooseAndSave()
-{
-    QFileDialog dialog(this, tr("Save Scene"), m_scenePath, SceneFilter());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("clothscene"));
-    return dialog.exec() == QDialog::Accepted && SaveScene(dialog.selectedFiles().constFirst());
-}
-
-bool MainWindow::MayDiscardScene()
-{
-    if (m_unattended || m_host.CurrentScene().UndoStack().isClean()) {
-        return true;
-    }
-    const auto answer =
-        QMessageBox::warning(this, tr("Unsaved changes"), tr("The scene has changes that are not saved."),
-                             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && SaveOrChoose());
-}
-
-void MainWindow::RestoreImageEditor()
-{
-    m_host.Editor().SetProgram(QSettings().value(imageEditorKey).toString());
-}
-
-void MainWindow::ChooseImageEditor()
-{
-    bool chosen = false;
-    const QString program = QInputDialog::getText(
-        this, tr("Image Editor"), tr("Program that opens weight images; empty for what the desktop opens them with:"),
-        QLineEdit::Normal, m_host.Editor().Program(), &chosen);
-    if (!chosen) {
-        return;
-    }
-    m_host.Editor().SetProgram(program);
-    if (!m_unattended) {
-        QSettings().setValue(imageEditorKey, program);
-    }
+    m_files->New();
 }
 
 void MainWindow::SetUnattended()
 {
     m_unattended = true;
+    m_files->SetUnattended();
+    m_edit->SetUnattended();
     m_host.Answers().unattended = true;
+}
+
+void MainWindow::RestoreSettings()
+{
+    m_edit->RestoreImageEditor();
+    RestoreWindowState(*this);
 }
 
 void MainWindow::Complain(const QString& text)
@@ -331,15 +265,21 @@ void MainWindow::Complain(const QString& text)
     if (m_unattended) {
         qCritical("%s", qUtf8Printable(text));
     } else {
-        QMessageBox::warning(this, QApplication::applicationDisplayName(), text);
+        AskUser(this, {QApplication::applicationDisplayName(), text, QMessageBox::Warning});
     }
 }
 
-void MainWindow::ShowTitle()
+void MainWindow::ConnectScene()
 {
-    const QString name = m_scenePath.isEmpty() ? tr("Untitled") : QFileInfo(m_scenePath).fileName();
-    setWindowTitle(QStringLiteral("%1[*] - %2").arg(name, QApplication::applicationDisplayName()));
-    setWindowModified(!m_host.CurrentScene().UndoStack().isClean());
+    const Scene& scene = m_host.CurrentScene();
+    connect(&scene, &Scene::ObjectsChanged, this, &MainWindow::ShowHint);
+    connect(&scene, &Scene::SelectionChanged, this, &MainWindow::ShowHint);
+    ShowHint();
+}
+
+void MainWindow::ShowHint()
+{
+    m_modifyPanel->SetHint(PanelHint(m_host));
 }
 
 void MainWindow::KeepExpandStates() const
@@ -362,7 +302,7 @@ void MainWindow::RestoreExpandStates()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(MayDiscardScene());
+    event->setAccepted(m_files->MayDiscard());
 }
 
 } // namespace Host

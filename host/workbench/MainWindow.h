@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/import/Units.h"
 #include "host/services/HostApplication.h"
 #include "host/services/PluginHost.h"
 
@@ -7,12 +8,19 @@
 
 #include <QMainWindow>
 
+#include <memory>
+#include <optional>
+
 class QLabel;
 
 namespace Host {
 
+class EditMenu;
 class HostControls;
+class LanguageMenu;
+class Languages;
 class ModifyPanel;
+class SceneFiles;
 
 /// The workbench's window: the scene tree, the Modify panel with the plug-in's sections, the host controls and the
 /// live call journal.
@@ -21,19 +29,19 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget* parent = nullptr);
+    explicit MainWindow(std::shared_ptr<HostApplication> host = std::make_shared<HostApplication>());
     ~MainWindow() override;
 
     HostApplication& Application() { return m_host; }
+    const std::shared_ptr<HostApplication>& SharedApplication() const { return m_sharedHost; }
     PluginHost& Plugin() { return m_pluginHost; }
 
     /// Starts the plug-in of \p libraryFile and embeds its sections. \return false, after a message, when it fails
     bool StartPlugin(const QString& libraryFile, MV::ECompatibleApp app);
 
-    /// Reads a model into the current scene and selects it, with a progress dialog that can cancel it.
-    /// \return false when it failed, after a message, or was cancelled
-    bool ImportModel(const QString& path);
-    /// Exchanges the scene for one that was saved before. \return false, after a message, when the file is no good
+    // Files: see SceneFiles.
+    /// \param unit  of a model whose file does not name one; without it the user is asked
+    bool ImportModel(const QString& path, const std::optional<LengthUnit>& unit = {});
     bool OpenScene(const QString& path);
     bool SaveScene(const QString& path);
     void NewScene();
@@ -41,39 +49,48 @@ public:
     /// With nobody to click, messages go to the standard error output instead of a box, and nothing is remembered
     /// from one run to the next.
     void SetUnattended();
-    /// Sets the program that the user chose for images in an earlier run.
-    void RestoreImageEditor();
+    /// Goes on with what the user chose in an earlier run: place, size and docks of the window, the program for images.
+    void RestoreSettings();
+
+    /// Fills the menu from which the user chooses a language.
+    void OfferLanguages(const Languages& languages);
+    /// Shows what \p old shows, in its place, with the plug-in started again. Both are over the same host; \p old has
+    /// no plug-in any more afterwards.
+    void TakeOver(MainWindow& old);
+
+Q_SIGNALS:
+    /// The user has chosen a language of those offered; empty for the system's.
+    void LanguageChosen(const QString& code);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void CreateDocks();
-    void CreateActions();
-    void CreateFileActions();
-    void CreateEditActions();
+    void CreateStatusBar();
+    void CreateViewMenu();
+    void ChooseLanguage(const QString& code);
     void RestartPlugin(int application);
-
-    void ChooseModel();
-    void ChooseImageEditor();
-    void ChooseScene();
-    bool SaveOrChoose();
-    bool ChooseAndSave();
-    /// Lets the user save unsaved changes. \return false when the user would rather stay
-    bool MayDiscardScene();
-
+    bool StartPluginAgain(MainWindow& from, const QString& libraryFile, MV::ECompatibleApp app);
+    void ShowMaterialAgain(const ClothAddress& shown);
     void Complain(const QString& text);
-    void ShowTitle();
+    void ShowHint();
+    void ConnectScene();
     void KeepExpandStates() const;
     void RestoreExpandStates();
 
-    HostApplication m_host;
+    std::shared_ptr<HostApplication> m_sharedHost;
+    HostApplication& m_host;
     PluginHost m_pluginHost; ///< Dies before the host and before the panel that shows its sections.
+    SceneFiles* m_files;
+    EditMenu* m_edit;
     ModifyPanel* m_modifyPanel = nullptr;
     HostControls* m_controls = nullptr;
     QLabel* m_panelPage = nullptr;
+    LanguageMenu* m_languageMenu = nullptr;
+    MV::ECompatibleApp m_app = MV::ECompatibleApp::None;
+    ClothAddress m_shown; ///< What the panel read last.
     QString m_libraryFile;
-    QString m_scenePath;
     bool m_unattended = false;
 };
 

@@ -54,11 +54,13 @@ SceneTree::SceneTree(HostApplication& host, QWidget* parent)
     , m_host(host)
 {
     setObjectName(QStringLiteral("sceneTree"));
+    setAccessibleName(tr("Objects of the scene"));
     setHeaderHidden(true);
     setSelectionMode(ExtendedSelection);
     connect(this, &QTreeWidget::itemSelectionChanged, this, &SceneTree::OnSelectionChanged);
     connect(this, &QTreeWidget::itemClicked, this, &SceneTree::OnItemClicked);
     connect(&host, &HostApplication::SceneReplaced, this, &SceneTree::ConnectScene);
+    connect(&host, &HostApplication::StateChanged, this, &SceneTree::OpenMeshesForPicking);
     ConnectScene();
 }
 
@@ -120,15 +122,43 @@ void SceneTree::OnSelectionChanged()
     for (const QTreeWidgetItem* item : items) {
         objects.append(ObjectOf(item));
     }
+    const QVector<BF::CHandle*> before = m_host.CurrentScene().Selection();
     m_host.Select(objects);
+    m_clickSelected = m_clickSelected || m_host.CurrentScene().Selection() != before;
+}
+
+void SceneTree::mousePressEvent(QMouseEvent* event)
+{
+    m_clickSelected = false;
+    QTreeWidget::mousePressEvent(event);
 }
 
 void SceneTree::OnItemClicked(QTreeWidgetItem* item)
 {
+    const Scene& scene = m_host.CurrentScene();
     const int index = item->data(0, materialIndexRole).toInt();
-    if (index >= 0 && m_host.CurrentScene().pickMode == MV::EPickMode::Material) {
-        m_host.Send("PickedMaterialIndexChanged", &MV::CEventSender::PickedMaterialIndexChanged, ObjectOf(item),
-                    static_cast<unsigned long long>(index));
+    const bool choosesMaterials =
+        scene.dialogMode == MV::EDialogMode::WeightMap || scene.pickMode == MV::EPickMode::Material;
+    if (index >= 0 && choosesMaterials) {
+        m_host.PickMaterial(ObjectOf(item), index);
+    } else if (!m_clickSelected && item->isSelected()) {
+        m_host.SelectAgain();
+    }
+}
+
+void SceneTree::OpenMeshesForPicking()
+{
+    if (m_host.CurrentScene().pickMode != MV::EPickMode::Material) {
+        return;
+    }
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        QTreeWidgetItem* object = topLevelItem(i);
+        if (m_host.CurrentScene().Selection().contains(ObjectOf(object))) {
+            object->setExpanded(true);
+            for (int mesh = 0; mesh < object->childCount(); ++mesh) {
+                object->child(mesh)->setExpanded(true);
+            }
+        }
     }
 }
 

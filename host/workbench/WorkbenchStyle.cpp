@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QPainter>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
+#include <QStyleOption>
 
 namespace Host {
 
@@ -47,11 +49,43 @@ QPalette DarkPalette()
     return palette;
 }
 
+/// The Fusion style, which frames its boxes in a darker shade of the ground: on a dark one an empty box is not seen.
+class DarkStyle : public QProxyStyle
+{
+public:
+    DarkStyle()
+        : QProxyStyle(QStringLiteral("Fusion"))
+    {
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override
+    {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const bool isRound = element == PE_IndicatorRadioButton;
+        if (!isRound && element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck) {
+            return;
+        }
+        const bool isEnabled = option->state.testFlag(State_Enabled);
+        const QRectF frame = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(isEnabled ? QColor(150, 150, 150) : QColor(92, 92, 92));
+        painter->setBrush(Qt::NoBrush);
+        if (isRound) {
+            painter->drawEllipse(frame);
+        } else {
+            painter->drawRect(frame);
+        }
+        painter->restore();
+    }
+};
+
 } // namespace
 
 void ApplyWorkbenchStyle(QApplication& application)
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new DarkStyle);
     QApplication::setPalette(DarkPalette());
     QFont font = QApplication::font();
     font.setPointSizeF(9.0);
@@ -59,10 +93,7 @@ void ApplyWorkbenchStyle(QApplication& application)
     // Section headers read from left to right, as in every property editor.
     application.setStyleSheet(QStringLiteral("QPushButton#qtExpandPushButton { text-align: left; padding: 5px 8px; "
                                              "font-weight: bold; }"
-                                             "QToolTip { border: 1px solid #707070; }"
-                                             // An empty box has to be seen on the dark ground of a table.
-                                             "QTableWidget QCheckBox::indicator:unchecked { width: 12px; height: 12px; "
-                                             "border: 1px solid #8a8a8a; }"));
+                                             "QToolTip { border: 1px solid #707070; }"));
 }
 
 } // namespace Host

@@ -16,7 +16,7 @@ namespace MV {
 class CHotKeyService
 {
 public:
-    /// \return a value that stands for the registration; 0 when it failed
+    /// \return a value that identifies the registration; 0 when it failed
     virtual quint64 RegisterSectionHotKeys(const BF::CArrayList<std::wstring>& descriptions,
                                            const std::wstring& owner) = 0;
     virtual BF::Result DisableHotKeyAction(QAction* action) = 0;

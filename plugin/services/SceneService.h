@@ -40,7 +40,7 @@ public:
     virtual EDialogMode GetDialogMode() = 0;
     virtual EPickMode GetCurrentPickMode() = 0;
 
-    /// Picture that stands in where a channel has no texture.
+    /// Picture to show where a channel has no texture.
     virtual BF::Result GetDefaultThumbnail(BF::CHandle*& thumbnail) = 0;
     /// Whether \p thumbnail has a source image, and which.
     virtual bool GetThumbnailSourceImage(BF::CHandle* thumbnail, BF::CHandle*& source) = 0;

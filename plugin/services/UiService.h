@@ -23,7 +23,7 @@ public:
     /// \param flag  0
     virtual BF::Result RefreshScene(int flag) = 0;
     virtual BF::Result LaunchImageEditor(const BF::CArrayList<std::wstring>& files) = 0;
-    /// Shows a message and waits for an answer.
+    /// Shows a message and waits for the user.
     /// \param icon           as QMessageBox::Icon counts; the panel passes 2
     /// \param buttons        a set of Ok (0x400) and Cancel (0x400000)
     /// \param defaultButton  one of \p buttons, or 0

@@ -17,8 +17,8 @@
 /// edit over both. \p SpinBox is a host spin box; the derived class is the QObject with the signals.
 ///
 /// The slider may have limits of its own, which keep it to the part of the range that is of everyday use: its whole
-/// length stands for that part then. The spin box takes and shows the values beyond them all the same. For such a
-/// value the handle stands at the nearer end, and changes nothing until the user moves it.
+/// length covers that part then. The spin box takes and shows the values beyond them all the same. For such a
+/// value the handle is at the nearer end, and changes nothing until the user moves it.
 template <class SpinBox>
 class ComboSpinBoxBase : public QWidget
 {
@@ -38,7 +38,7 @@ public:
         setFocusProxy(m_spinBox);
         setFocusPolicy(Qt::StrongFocus);
         m_spinBox->setKeyboardTracking(false);
-        // So that the numbers of several boxes stand in one column, whatever their ranges and suffixes.
+        // So that the numbers of several boxes are in one column, whatever their ranges and suffixes.
         m_spinBox->setMinimumWidth(96);
         m_spinBox->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         FitSlider();
@@ -61,7 +61,7 @@ public:
 
     ~ComboSpinBoxBase() override
     {
-        // A window that goes takes the focus from the halves, which ends an edit; nobody is there any more to tell.
+        // A closing window takes the focus from the halves, which ends an edit; nobody is left to be notified.
         m_slider->disconnect(this);
         m_spinBox->disconnect(this);
     }
@@ -122,7 +122,7 @@ protected:
 
     const SpinBox& Box() const { return *m_spinBox; }
 
-    /// Changes the spin box on behalf of the program. A new value starts the user's edit anew.
+    /// Changes the spin box on behalf of the program. A new value starts the user's edit again.
     template <class Change>
     void ChangeSilently(Change change)
     {
@@ -172,6 +172,17 @@ private:
         }
     }
 
+    /// The slider's position at its minimum: the value itself where a step is a whole number, so that the slider says
+    /// what the box says, to a screen reader for example.
+    int FirstPosition() const
+    {
+        if constexpr (std::is_floating_point_v<Number>) {
+            return 0;
+        } else {
+            return Resolution() > 1.0 ? 0 : int(SliderMinimum());
+        }
+    }
+
     /// How many slider steps \p value is away from the slider's minimum. The difference of the two may be out of reach.
     double StepsTo(Number value) const
     {
@@ -183,7 +194,8 @@ private:
     {
         const double resolution = Resolution();
         const double value =
-            std::min((double(SliderMinimum()) / resolution + position) * resolution, double(SliderMaximum()));
+            std::min((double(SliderMinimum()) / resolution + (double(position) - FirstPosition())) * resolution,
+                     double(SliderMaximum()));
         if constexpr (std::is_floating_point_v<Number>) {
             return value;
         } else {
@@ -197,11 +209,12 @@ private:
         const QSignalBlocker silent(m_slider);
         const int steps = int(std::ceil(StepsTo(SliderMaximum()) - 0.001));
         const double singleStep = std::min(double(SingleStep()) / Resolution(), double(steps));
-        m_slider->setRange(0, steps);
+        const int first = FirstPosition();
+        m_slider->setRange(first, first + steps);
         m_slider->setSingleStep(std::max(1, int(std::lround(singleStep))));
         m_slider->setPageStep(std::max(1, steps / 10));
         const Number nearest = std::clamp(Value(), SliderMinimum(), SliderMaximum());
-        m_slider->setValue(int(std::lround(StepsTo(nearest))));
+        m_slider->setValue(first + int(std::lround(StepsTo(nearest))));
     }
 
     void FinishEdit()

@@ -5,13 +5,18 @@
 
 #include <QDoubleSpinBox>
 
-/// A spin box that tells when the user has committed an edit.
+/// A spin box that reports when the user has committed an edit. A point and a comma are both its decimal point,
+/// whatever the locale; it shows the locale's. Thousands separators are refused unless the box itself shows them.
 class BFQTCUSTOMWIDGETPLUGINU_EXPORT QDoubleSpinBoxEx : public SpinBoxCommit<QDoubleSpinBox>
 {
     Q_OBJECT
 
 public:
     explicit QDoubleSpinBoxEx(QWidget* parent = nullptr);
+
+    QValidator::State validate(QString& input, int& position) const override;
+    void fixup(QString& input) const override;
+    double valueFromText(const QString& text) const override;
 
 Q_SIGNALS:
     /// Once per committed edit that changed the value: on Return, on loss of focus, at the end of a run of arrow or

@@ -26,7 +26,7 @@ public:
     /// File name suffixes that are taken, separated by blanks: "jpg jpeg bmp". Empty takes every file.
     void SetFileFilter(const QString& filter);
 
-    /// What a double click asks for a file; an empty answer is none. Without a functor a double click does nothing.
+    /// What a double click calls for a file name; an empty one is none. Without a functor a double click does nothing.
     void SetGetOpenFileNameFunctor(std::function<QString()> functor);
 
 Q_SIGNALS:

@@ -5,13 +5,16 @@
 
 #include <QSpinBox>
 
-/// A spin box that tells when the user has committed an edit.
+/// A spin box that reports when the user has committed an edit. Points, commas and thousands separators are refused
+/// unless the box itself shows them.
 class BFQTCUSTOMWIDGETPLUGINU_EXPORT QSpinBoxEx : public SpinBoxCommit<QSpinBox>
 {
     Q_OBJECT
 
 public:
     explicit QSpinBoxEx(QWidget* parent = nullptr);
+
+    QValidator::State validate(QString& input, int& position) const override;
 
 Q_SIGNALS:
     /// Once per committed edit that changed the value: on Return, on loss of focus, at the end of a run of arrow or

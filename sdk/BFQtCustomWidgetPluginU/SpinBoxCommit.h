@@ -15,7 +15,7 @@
 ///
 /// An edit begins with the first user event that changes the value and is committed on Return, on loss of focus, when
 /// a held arrow key or arrow button is let go, and a moment after the last wheel step. Committed() is called when the
-/// value then differs from the one at the beginning. A value set by the program in between starts the edit anew: it
+/// value then differs from the one at the beginning. A value set by the program in between starts the edit again: it
 /// was not the user's. Without keyboard tracking, Escape takes typed text back that has not become the value yet.
 template <class SpinBox>
 class SpinBoxCommit : public SpinBox

@@ -19,10 +19,10 @@ public:
     CAbstractPlugin();
     Q_DISABLE_COPY_MOVE(CAbstractPlugin)
 
-    /// The application as CCoreBase::GetCurrentAp() tells it.
+    /// The application as CCoreBase::GetCurrentAp() reports it.
     ECompatibleApp GetCurrentApp() override;
     void SetCurrentApp(ECompatibleApp app) override;
-    /// Nothing to put back in a plug-in without tool bars; answers 0.
+    /// Nothing to restore in a plug-in without tool bars. \return 0
     BF::Result RestoreLayout() override;
 
 protected:

@@ -11,7 +11,7 @@ namespace MV {
 
 namespace {
 
-/// A triangle in the button's text colour: to the right for folded, downwards for unfolded.
+/// A triangle in the button's text colour: in the direction of reading for folded, downwards for unfolded.
 QIcon ExpandArrow(const QPushButton& button, bool expanded)
 {
     const int size = button.iconSize().height();
@@ -24,7 +24,8 @@ QIcon ExpandArrow(const QPushButton& button, bool expanded)
     painter.setPen(Qt::NoPen);
     painter.setBrush(button.palette().color(QPalette::ButtonText));
     painter.translate(size / 2.0, size / 2.0);
-    painter.rotate(expanded ? 90.0 : 0.0);
+    const qreal onwards = button.isRightToLeft() ? 180.0 : 0.0;
+    painter.rotate(expanded ? 90.0 : onwards);
     painter.scale(size / 16.0, size / 16.0);
     painter.drawPolygon(QPolygonF(QVector<QPointF>{{-2.5, -5.0}, {4.0, 0.0}, {-2.5, 5.0}}));
     return QIcon(pixmap);

@@ -9,7 +9,7 @@
 
 namespace MV {
 
-/// Source of all host events. The host emits an event after the state that it tells of is in place.
+/// Source of all host events. The host emits an event after the state that it reports is in place.
 class MVPLUGINQT_EXPORT CEventSender : public QObject
 {
     Q_OBJECT

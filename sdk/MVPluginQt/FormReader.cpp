@@ -1,6 +1,7 @@
 #include "MVPluginQt/FormReader.h"
 
 #include "MVPluginQt/FormClasses.h"
+#include "MVPluginQt/FormLimits.h"
 #include "MVPluginQt/FormValues.h"
 
 #include <QAction>
@@ -213,7 +214,7 @@ void CFormBuild::ApplyToWidget(QWidget* widget, const QString& name, const QVari
     }
     auto* label = qobject_cast<QLabel*>(widget);
     if (label && name == QLatin1String("buddy")) {
-        // It may stand further down.
+        // It may come further down.
         m_buddies.append({label, value.toString()});
         return;
     }
@@ -225,7 +226,7 @@ void CFormBuild::ApplyToWidget(QWidget* widget, const QString& name, const QVari
     SetProperty(widget, name, value);
 }
 
-/// Properties of a table's headers stand with the table, under names that start with the header's.
+/// Properties of a table's headers belong to the table, under names that start with the header's.
 void CFormBuild::ApplyHeaderAttributes(QTableWidget* table, const QDomElement& element) const
 {
     const std::pair<QString, QHeaderView*> headers[] = {
@@ -307,7 +308,7 @@ QSpacerItem* CFormBuild::Spacer(const QDomElement& element) const
     for (const QDomElement& property : Children(element, QStringLiteral("property"))) {
         values.insert(NameOf(property), m_values.Of(property));
     }
-    const QSize size = values.value(QStringLiteral("sizeHint")).toSize();
+    const QSize size = values.value(QStringLiteral("sizeHint"), QSize(0, 0)).toSize();
     const QByteArray key =
         values.value(QStringLiteral("sizeType"), QStringLiteral("QSizePolicy::Expanding")).toByteArray();
     const auto along = QSizePolicy::Policy(QMetaEnum::fromType<QSizePolicy::Policy>().keyToValue(key.constData()));
@@ -344,9 +345,13 @@ void CFormBuild::ApplyBuddies(QWidget* root) const
 
 QWidget* ReadForm(QIODevice& device, const QDir& workingFolder, QWidget* parent, QString& error)
 {
+    QBuffer form;
+    if (!TakeForm(device, form, error)) {
+        return nullptr;
+    }
     QDomDocument document;
     int line = 0;
-    if (!document.setContent(&device, &error, &line)) {
+    if (!document.setContent(&form, &error, &line)) {
         error = QStringLiteral("line %1: %2").arg(line).arg(error);
         return nullptr;
     }
@@ -357,11 +362,11 @@ QWidget* ReadForm(QIODevice& device, const QDir& workingFolder, QWidget* parent,
         return nullptr;
     }
     CFormBuild build(ui, workingFolder);
-    QWidget* form = build.Root(top, parent);
-    if (!form) {
+    QWidget* root = build.Root(top, parent);
+    if (!root) {
         error = QStringLiteral("the top widget cannot be made");
     }
-    return form;
+    return root;
 }
 
 } // namespace MV::Internal

@@ -21,7 +21,7 @@ int Number(const QDomElement& element, const QString& child)
     return element.firstChildElement(child).text().toInt();
 }
 
-/// What \p key stands for; the value of the first key when there is none of that name.
+/// The value of \p key; the value of the first key when there is none of that name.
 template <class Enum>
 Enum EnumValue(const QString& key)
 {

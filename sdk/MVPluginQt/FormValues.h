@@ -8,7 +8,7 @@ class QDomElement;
 
 namespace MV::Internal {
 
-/// Turns the values that stand in a form into Qt's.
+/// Turns the values of a form into Qt's.
 class CFormValues
 {
 public:

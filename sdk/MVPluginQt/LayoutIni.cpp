@@ -77,7 +77,7 @@ QVariant ValueFor(const QMetaProperty& property, const QVariant& value)
     return converted.convert(type) ? converted : QVariant();
 }
 
-/// Sets one property; an empty answer is success, otherwise it says what was wrong.
+/// Sets one property; an empty result is success, otherwise it says what is wrong.
 QString ApplyEntry(QWidget* form, const QString& objectName, const QString& propertyName, const QVariant& value)
 {
     QObject* object = form->objectName() == objectName ? form : form->findChild<QObject*>(objectName);

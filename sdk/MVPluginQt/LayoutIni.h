@@ -14,7 +14,7 @@ namespace MV::Internal {
 /// that a range is set before the value.
 ///
 /// An entry that names an unknown object or property, or a value that the property does not take, is reported once
-/// with a warning and passed over. An empty \p iniPath does nothing.
+/// with a warning and skipped. An empty \p iniPath does nothing.
 void ApplyLayoutIni(const QString& iniPath, QWidget* form);
 
 } // namespace MV::Internal

@@ -25,7 +25,7 @@ void CPluginDialog::BeforeDialogModeChangedTHide() {}
 
 void CPluginDialog::AfterDialogModeChangedTHide() {}
 
-// A spontaneous event tells of the window system (minimising, another desktop), not of a mode.
+// A spontaneous event comes from the window system (minimising, another desktop), not from a mode.
 void CPluginDialog::showEvent(QShowEvent* event)
 {
     if (event->spontaneous()) {

@@ -1,5 +1,7 @@
 #include "MVPluginQt/UiToolsReader.h"
 
+#include "MVPluginQt/FormLimits.h"
+
 #include <BFQtCustomWidgetPluginU/CustomWidgetFactory.h>
 
 #include <QCoreApplication>
@@ -71,13 +73,17 @@ private:
 
 QWidget* ReadFormWithUiTools(QIODevice& device, const QDir& workingFolder, QWidget* parent, QString& error)
 {
+    QBuffer form;
+    if (!TakeForm(device, form, error)) {
+        return nullptr;
+    }
     CFormLoader& loader = CFormLoader::Instance();
     loader.setWorkingDirectory(workingFolder);
-    QWidget* form = loader.load(&device, parent);
-    if (!form) {
+    QWidget* root = loader.load(&form, parent);
+    if (!root) {
         error = loader.errorString();
     }
-    return form;
+    return root;
 }
 
 } // namespace MV::Internal

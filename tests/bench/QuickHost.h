@@ -7,8 +7,8 @@
 #include <memory>
 #include <string>
 
-/// The stand-in host, answering what the benchmarks ask for in next to no time and without a journal: what is left to
-/// measure is the panel's own work.
+/// The stand-in host, which returns what the benchmarks ask for in next to no time and without a journal: what is left
+/// to measure is the panel's own work.
 ///
 /// Every object has as many meshes and materials as Fill() said, all of them soft cloth.
 class QuickHost : public Host::HostApplication

@@ -23,7 +23,7 @@ public:
     explicit Report(const QString& subject);
 
     /// Runs both works by turns, \p repetitions times each, and adds a line with their medians and the ratio of these,
-    /// which is not to exceed \p bound; without one it is only told.
+    /// which is not to exceed \p bound; without one it is only printed.
     void Compare(const QString& name, const Work& product, const Work& bare, std::optional<double> bound,
                  int repetitions = 11);
 

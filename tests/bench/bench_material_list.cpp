@@ -1,6 +1,6 @@
 // Listing the materials of an object in the material dialog.
 #include "material/SoftClothMaterialDlg.h"
-#include "plugin/HostIds.h"
+#include "panel/HostIds.h"
 #include "plugin/services/SceneService.h"
 #include "tests/bench/BenchPanel.h"
 #include "tests/bench/QuickHost.h"

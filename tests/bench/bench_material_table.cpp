@@ -1,6 +1,6 @@
 // Filling the material table.
-#include "plugin/HostIds.h"
-#include "preset/SoftClothMaterialTable.h"
+#include "material/SoftClothMaterialTable.h"
+#include "panel/HostIds.h"
 #include "tests/bench/BenchPanel.h"
 #include "tests/bench/QuickHost.h"
 #include "tests/bench/Report.h"

@@ -2,6 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/SampleModels.h"
 #include "tests/support/TestCase.h"
+#include "tests/support/Typing.h"
 
 #include "host/import/ModelImport.h"
 
@@ -37,14 +38,6 @@ namespace {
 const std::array<const char*, 4> sectionForms{"SoftClothPreset", "SoftClothProperty", "SoftClothCollision",
                                               "SoftClothWindSetting"};
 const char* const rigidMargin = "qtCollideWithRigidMarginDoubleEXSpinBox";
-
-void Enter(QDoubleSpinBox* box, const QString& text)
-{
-    box->setFocus();
-    box->selectAll();
-    QTest::keyClicks(box, text);
-    QTest::keyClick(box, Qt::Key_Return);
-}
 
 QGroupBox* BodyOf(QWidget* section)
 {
@@ -197,9 +190,9 @@ void TestPanelInHost::deletedObjectHidesThePanel()
 {
     PanelFixture fixture;
     const Host::Object& hero = fixture.AddCloth(SampleModels::Hero());
-    fixture.App().DeleteObject(hero.handle);
+    fixture.App().DeleteObjects({hero.handle});
     QVERIFY(!fixture.Section("SoftClothCollision")->isVisible());
 }
 
-QTEST_MAIN(TestPanelInHost)
+SOFTCLOTH_TEST(TestPanelInHost)
 #include "tst_panel_in_host.moc"

@@ -244,5 +244,5 @@ void TestPluginLibrary::mainWindowMayDieBeforeThePlugin()
     plugin.Stop();
 }
 
-QTEST_MAIN(TestPluginLibrary)
+SOFTCLOTH_TEST(TestPluginLibrary)
 #include "tst_plugin_library.moc"

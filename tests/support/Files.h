@@ -11,7 +11,7 @@ QString Write(const QString& path, const QByteArray& content);
 
 QByteArray Read(const QString& path);
 
-/// What Read() answers, with all lines ending in a line feed alone, whatever this system's programs end them in.
+/// What Read() returns, with all lines ending in a line feed alone, whatever this system's programs end them in.
 QByteArray ReadText(const QString& path);
 
 /// Lets everybody use the folder of a QTemporaryDir, whose own user alone may enter it.

@@ -5,7 +5,7 @@
 #include "plugin/services/SceneService.h"
 #include "plugin/services/UiService.h"
 
-/// Services that pass every call on to another one; a test double derives from these and answers for itself where it
+/// Services that pass every call on to another one; a test double derives from these and acts by itself where it
 /// has something to say.
 namespace Forwarding {
 

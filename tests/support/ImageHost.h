@@ -10,7 +10,7 @@
 #include <map>
 #include <memory>
 
-/// What the image operations of an ImageHost answer.
+/// What the image operations of an ImageHost return.
 struct ImagePlan
 {
     struct Texture
@@ -45,7 +45,7 @@ struct ImagePlan
 };
 
 /// The stand-in host with planned answers in place of all image work. Every operation succeeds unless the fault plan
-/// says otherwise, and is recorded as ever.
+/// says otherwise, and is recorded as always.
 class ImageHost : public Host::HostApplication
 {
 public:

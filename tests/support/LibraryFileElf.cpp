@@ -17,7 +17,7 @@ Struct At(const QByteArray& bytes, quint64 offset)
     return value;
 }
 
-/// The lines that a program of the binary utilities tells of a file.
+/// The lines that a program of the binary utilities prints about a file.
 QList<QByteArray> Ask(const QString& program, const QStringList& arguments)
 {
     QProcess process;

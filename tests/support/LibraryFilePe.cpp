@@ -32,7 +32,7 @@ struct Image
         }
     }
 
-    /// Where in the file stands what is at \p address once the image is loaded.
+    /// The place in the file of what is at \p address once the image is loaded.
     quint64 Offset(quint64 address) const
     {
         for (const IMAGE_SECTION_HEADER& section : sections) {
@@ -46,7 +46,7 @@ struct Image
 
     QString NameAt(quint64 address) const { return QString::fromLatin1(bytes.constData() + Offset(address)); }
 
-    /// A name of more than eight characters stands behind the symbols, and its place there in the header.
+    /// A name of more than eight characters follows the symbols, and its place there is in the header.
     QByteArray NameOf(const IMAGE_SECTION_HEADER& section) const
     {
         char name[IMAGE_SIZEOF_SHORT_NAME + 1] = {}; // Eight characters have no end of their own.

@@ -3,17 +3,13 @@
 #include "host/services/HostApplication.h"
 #include "host/services/PluginHost.h"
 #include "host/workbench/ModifyPanel.h"
+#include "tests/support/HostCalls.h"
 
 #include <MVPluginQt/Enumerations.h>
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QStringList>
-
-/// The texts of the journal's calls, events left out, and empties the journal.
-QStringList TakeCalls(Host::CallJournal& journal);
-
-/// The names of the operations of the journal's calls, in order, and empties the journal.
-QStringList TakeOperations(Host::CallJournal& journal);
 
 /// The built library in the stand-in host, with its sections in a Modify panel.
 class PanelFixture
@@ -27,7 +23,14 @@ public:
     Host::HostApplication& App() { return m_host; }
     Host::Scene& CurrentScene() { return m_host.CurrentScene(); }
     Host::PluginHost& Plugin() { return m_plugin; }
-    QMainWindow& Window() { return m_window; }
+    QMainWindow& Window() { return *m_window; }
+
+    /// Starts the plug-in, anew if it runs already, and puts its sections into the Modify panel.
+    bool Start(MV::ECompatibleApp app);
+
+    // What a host may do in the middle of everything. Window() is not to be used after the first.
+    void DestroyWindow() { delete m_window; }
+    void DestroyModifyPanel() { delete m_panel; }
 
     /// Adds \p object with soft cloth switched on for all its materials and selects it.
     Host::Object& AddCloth(Host::Object object);
@@ -40,7 +43,7 @@ public:
 
 private:
     Host::HostApplication m_host;
-    QMainWindow m_window;
-    Host::ModifyPanel* m_panel;
-    Host::PluginHost m_plugin; ///< Dies first.
+    QPointer<QMainWindow> m_window;
+    QPointer<Host::ModifyPanel> m_panel;
+    Host::PluginHost m_plugin;
 };

@@ -20,7 +20,7 @@ bool TakeExpected(const QString& message)
     return false;
 }
 
-/// What the platform without a display says of itself; it tells nothing about the code under test.
+/// What the platform without a display says of itself, nothing about the code under test.
 bool IsPlatformNoise(const QString& message)
 {
     return message.startsWith(QLatin1String("This plugin does not support"));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/TestProgram.h"
+
 #include <QObject>
 #include <QSet>
 #include <QString>

@@ -33,7 +33,7 @@ public:
     }
 };
 
-/// Fails the test and closes the modal windows when they have stayed open for too long: nobody would answer them.
+/// Fails the test and closes the modal windows when they have stayed open for too long: nobody would close them.
 class Watchdog : public QTimer
 {
 public:

@@ -7,6 +7,9 @@ namespace Demo {
 
 namespace {
 
+// The shapes below are given in metres, the models are in centimetres.
+constexpr float centimetres = 100.0F;
+
 constexpr float pi = 3.14159265F;
 const QRectF wholeTexture(0.0, 0.0, 1.0, 1.0);
 
@@ -157,6 +160,12 @@ Part MakeCloth(const char* material, const Surface& surface, int columns, int ro
     return cloth;
 }
 
+void Finish(Part& part)
+{
+    SmoothNormals(part);
+    Enlarge(part, centimetres);
+}
+
 } // namespace
 
 std::vector<Mesh> MakeCharacter()
@@ -166,7 +175,7 @@ std::vector<Mesh> MakeCharacter()
         {"Clothes", {MakeCloth("Skirt", SkirtSurface, 176, 22), MakeCloth("Cape", CapeSurface, 52, 60)}},
     };
     for (Mesh& mesh : meshes) {
-        std::for_each(mesh.parts.begin(), mesh.parts.end(), SmoothNormals);
+        std::for_each(mesh.parts.begin(), mesh.parts.end(), Finish);
     }
     return meshes;
 }
@@ -175,7 +184,7 @@ std::vector<Mesh> MakeFlag()
 {
     const auto flag = [](float u, float v) { return QVector3D(1.5F * u, v, 0.03F * std::sin(2.0F * pi * u) * u); };
     std::vector<Mesh> meshes{{"Sheet", {MakeCloth("Flag", flag, 60, 40)}}};
-    SmoothNormals(meshes.front().parts.front());
+    Finish(meshes.front().parts.front());
     return meshes;
 }
 

@@ -6,11 +6,11 @@
 
 namespace Demo {
 
-/// The demo character, 1.7 units tall, standing at the origin and looking along +z: the mesh "Body" with the materials
+/// The demo character, 170 cm tall, standing at the origin and looking along +z: the mesh "Body" with the materials
 /// "Body skin" and "Hair", and the mesh "Clothes" with "Skirt" and "Cape".
 std::vector<Mesh> MakeCharacter();
 
-/// A flag of 1.5 by 1 units that hangs from its left edge, with the one material "Flag", whose texture it shows whole.
+/// A flag of 150 by 100 cm that hangs from its left edge, with the one material "Flag", whose texture it shows whole.
 std::vector<Mesh> MakeFlag();
 
 /// Where the pieces of the body are in the texture "Body skin", v growing upwards.

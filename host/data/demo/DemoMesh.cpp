@@ -73,7 +73,7 @@ void AddSurface(Part& part, const Surface& surface, int columns, int rows, const
             const float u = static_cast<float>(column) / static_cast<float>(columns);
             part.vertices.push_back({surface(u, v), {}, {u, v}});
         }
-        // The tip of each triangle of a fan stands over the middle of its base.
+        // The tip of each triangle of a fan is over the middle of its base.
         for (int column = 0; column <= columns && isPoint(row); ++column) {
             part.vertices[indexOf(column, row)].uv.setX(
                 std::min(1.0F, (static_cast<float>(column) + 0.5F) / static_cast<float>(columns)));
@@ -96,6 +96,13 @@ void AddSurface(Part& part, const Surface& surface, int columns, int rows, const
                     {indexOf(column, row), indexOf(column + 1, row + 1), indexOf(column, row + 1)});
             }
         }
+    }
+}
+
+void Enlarge(Part& part, float factor)
+{
+    for (Vertex& vertex : part.vertices) {
+        vertex.position *= factor;
     }
 }
 

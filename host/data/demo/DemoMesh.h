@@ -39,6 +39,9 @@ using Surface = std::function<QVector3D(float u, float v)>;
 /// \param uvArea the part of the texture that the surface takes, v growing upwards
 void AddSurface(Part& part, const Surface& surface, int columns, int rows, const QRectF& uvArea);
 
+/// Makes \p part \p factor times as large, about the origin.
+void Enlarge(Part& part, float factor);
+
 /// Gives all vertices smooth normals, also across the seams of closed surfaces.
 void SmoothNormals(Part& part);
 

@@ -171,7 +171,7 @@ QImage PaintRubber()
     const auto color = [](double u, double v) {
         const int grain = paintedSize / 2;
         const double speck = Noise(static_cast<int>(u * grain), static_cast<int>(v * grain));
-        return FromColor(qRgb(54, 58, 62)) * (0.92 + 0.16 * speck);
+        return FromColor(qRgb(104, 110, 116)) * (0.92 + 0.16 * speck);
     };
     return PaintSwatch({2.0, 0.55, 34.0}, height, color);
 }

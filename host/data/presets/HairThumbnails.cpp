@@ -61,7 +61,7 @@ QImage PaintBust(const std::function<void(QPainter&)>& drawHair)
     return image;
 }
 
-/// \p brightness from 0 to 1 tells the strands of a head apart.
+/// \p brightness from 0 to 1 distinguishes the strands of a head.
 void DrawStrand(QPainter& painter, const Course& at, const Tone& tone, double brightness, double width)
 {
     constexpr int pieces = 28;

@@ -19,7 +19,7 @@ using namespace Painting;
 /// What a flag does in a wind.
 struct Flag
 {
-    double reach = 1.0;  ///< How far it stands out from its pole, from 0 to 1.
+    double reach = 1.0;  ///< How far it reaches out from its pole, from 0 to 1.
     double drop = 0.0;   ///< How far its free end hangs down, in parts of the picture.
     double waves = 1.0;  ///< How many waves run through it.
     double height = 0.0; ///< How high the waves are, in parts of the picture.
@@ -215,7 +215,7 @@ QImage PaintWhirl()
 
 std::vector<Thumbnail> WindThumbnails()
 {
-    return {{"1_Calm", PaintCalm}, {"2_Breeze", PaintBreeze}, {"3_Wind", PaintSteadyWind},
+    return {{"1_Calm", PaintCalm}, {"2_Breeze", PaintBreeze}, {"3_Steady", PaintSteadyWind},
             {"4_Gale", PaintGale}, {"5_Gusts", PaintGusts},   {"6_Whirl", PaintWhirl}};
 }
 

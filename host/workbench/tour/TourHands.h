@@ -13,7 +13,7 @@
 
 namespace Host {
 
-/// One step: what it shows, and what it does; the answer is empty when it holds, otherwise it says what does not.
+/// One step: what it shows, and what it does; the result is empty when it holds, otherwise it says what does not.
 struct TourStep
 {
     const char* name;
@@ -37,7 +37,7 @@ public:
     /// A file of the demo data that the workbench comes with.
     QString DemoFile(const QString& name) const { return App().DataFolder() + QLatin1String("/demo/") + name; }
 
-    /// Begins a step, whose pictures bear \p name.
+    /// Begins a step, whose pictures have \p name in theirs.
     void BeginStep(const char* name);
     /// Writes pictures of every window that is open and of the Modify panel alone. \return false when that failed
     bool TakePictures();

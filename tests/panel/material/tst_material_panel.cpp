@@ -353,5 +353,5 @@ void TestMaterialPanel::otherApplicationsHaveNoDialogs()
     QVERIFY(!panel.Window().findChild<QDialog*>());
 }
 
-QTEST_MAIN(TestMaterialPanel)
+SOFTCLOTH_TEST(TestMaterialPanel)
 #include "tst_material_panel.moc"

@@ -239,7 +239,7 @@ void TestWeightImagesInHost::tooManyVerticesAreForTheUserToDecide()
 void TestWeightImagesInHost::badFileIsToldAndChangesNothing_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("problem"); // what the host tells; without it the panel does not even ask
+    QTest::addColumn<QString>("problem"); // what the host reports; without it the panel does not even ask
     QTest::newRow("missing") << QStringLiteral("missing.png") << QString();
     QTest::newRow("directory") << QStringLiteral("folder.png") << QString();
     QTest::newRow("empty") << QStringLiteral("empty.png") << QStringLiteral("it is empty");
@@ -386,5 +386,5 @@ void TestWeightImagesInHost::uvLayoutOpensInTheEditor()
     QVERIFY2(!QImage(file).isNull(), qPrintable(launched.first()));
 }
 
-QTEST_MAIN(TestWeightImagesInHost)
+SOFTCLOTH_TEST(TestWeightImagesInHost)
 #include "tst_weight_images_in_host.moc"

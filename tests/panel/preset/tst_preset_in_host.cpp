@@ -8,6 +8,7 @@
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QGroupBox>
+#include <QImage>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void everyShippedPresetIsInItsTab_data();
     void everyShippedPresetIsInItsTab();
     void everyItemOfTheGalleryHasAPreset();
+    void thumbnailsAreSeenOnTheDarkGround_data();
+    void thumbnailsAreSeenOnTheDarkGround();
     void presetChangesItsGroupsAndIsUndone_data();
     void presetChangesItsGroupsAndIsUndone();
     void singleMaterialBecomesSoftCloth_data();
@@ -176,6 +179,32 @@ void TestPresetInHost::everyItemOfTheGalleryHasAPreset()
     }
 }
 
+void TestPresetInHost::thumbnailsAreSeenOnTheDarkGround_data()
+{
+    AddPresetRows();
+}
+
+void TestPresetInHost::thumbnailsAreSeenOnTheDarkGround()
+{
+    QFETCH(const QString, profile);
+    QString path = profile;
+    const QImage thumbnail = QImage(path.replace(QLatin1String(".ini"), QLatin1String(".png")));
+    QVERIFY(!thumbnail.isNull());
+    // Of the swatch itself: what is around it may be transparent.
+    double sum = 0;
+    double weight = 0;
+    for (int y = 0; y < thumbnail.height(); ++y) {
+        for (int x = 0; x < thumbnail.width(); ++x) {
+            const QColor color = thumbnail.pixelColor(x, y);
+            sum += color.alphaF() * qGray(color.rgb());
+            weight += color.alphaF();
+        }
+    }
+    const double mean = sum / weight;
+    constexpr double ground = 40;
+    QVERIFY2(mean >= 1.3 * ground, qPrintable(QString::number(mean)));
+}
+
 void TestPresetInHost::presetChangesItsGroupsAndIsUndone_data()
 {
     AddPresetRows();
@@ -317,5 +346,5 @@ void TestPresetInHost::presetOfAnotherMaterialLeavesTheFirstAlone()
     QVERIFY(panel.Cloth(hero, 2) == before);
 }
 
-QTEST_MAIN(TestPresetInHost)
+SOFTCLOTH_TEST(TestPresetInHost)
 #include "tst_preset_in_host.moc"

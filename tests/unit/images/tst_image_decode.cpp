@@ -7,9 +7,11 @@
 #include <QBuffer>
 #include <QImageWriter>
 #include <QRandomGenerator>
+#include <QtEndian>
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 using Host::DecodedImage;
 using Host::ImageFormat;
@@ -39,6 +41,12 @@ private Q_SLOTS:
     void truncatedTgaIsRefusedWhereverItEnds();
     void hugeImageIsRefusedBeforeItIsDecoded_data();
     void hugeImageIsRefusedBeforeItIsDecoded();
+    void tooManyPixelsInAllAreRefused_data();
+    void tooManyPixelsInAllAreRefused();
+    void gifScreenWithoutASideIsAsLargeAsItsOtherSide_data();
+    void gifScreenWithoutASideIsAsLargeAsItsOtherSide();
+    void impossibleBmpSizeIsRefused_data();
+    void impossibleBmpSizeIsRefused();
     void emptySizeIsRefused_data() { formatIsDecoded_data(); }
     void emptySizeIsRefused();
     void anyHeaderIsSurvived_data() { formatIsDecoded_data(); }
@@ -49,7 +57,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Different grays in all pixels, of which both directions can be told.
+/// Different grays in all pixels, so that both directions can be distinguished.
 QImage Ramp()
 {
     QImage image(24, 9, QImage::Format_RGB32);
@@ -306,6 +314,73 @@ void TestImageDecode::hugeImageIsRefusedBeforeItIsDecoded()
                                 .arg(size.height()));
 }
 
+void TestImageDecode::tooManyPixelsInAllAreRefused_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QSize>("size");
+    for (const char* suffix : {"jpg", "bmp", "gif", "png", "tga"}) {
+        for (const QSize& size : {QSize(16384, 16384), QSize(16384, 8193), QSize(8193, 16384)}) {
+            QTest::addRow("%s %d x %d", suffix, size.width(), size.height()) << QString::fromLatin1(suffix) << size;
+        }
+    }
+}
+
+void TestImageDecode::tooManyPixelsInAllAreRefused()
+{
+    QFETCH(QString, suffix);
+    QFETCH(QSize, size);
+    const DecodedImage decoded = Host::DecodeImage(SampleImages::HeaderOnly(suffix, size));
+    QVERIFY(decoded.image.isNull());
+    QCOMPARE(decoded.error, QStringLiteral("it has %1 x %2 pixels, and more than 134217728 in all are too many")
+                                .arg(size.width())
+                                .arg(size.height()));
+}
+
+void TestImageDecode::gifScreenWithoutASideIsAsLargeAsItsOtherSide_data()
+{
+    QTest::addColumn<QSize>("screen");
+    QTest::newRow("no width") << QSize(0, 65535);
+    QTest::newRow("no height") << QSize(65535, 0);
+}
+
+void TestImageDecode::gifScreenWithoutASideIsAsLargeAsItsOtherSide()
+{
+    QFETCH(QSize, screen);
+    QByteArray gif = SampleImages::Encoded(QStringLiteral("gif"), SampleImages::Filled({4, 4}, Qt::white));
+    qToLittleEndian(quint16(screen.width()), gif.data() + 6);
+    qToLittleEndian(quint16(screen.height()), gif.data() + 8);
+    QCOMPARE(Host::ReadImageHeader(gif).size, screen.expandedTo({4, 4}));
+    QVERIFY(Host::DecodeImage(gif).error.contains(QStringLiteral("too many")));
+}
+
+void TestImageDecode::impossibleBmpSizeIsRefused_data()
+{
+    QTest::addColumn<qint32>("width");
+    QTest::addColumn<qint32>("height");
+    constexpr qint32 most = std::numeric_limits<qint32>::max();
+    constexpr qint32 least = std::numeric_limits<qint32>::min();
+    QTest::newRow("negative width") << -4 << 4;
+    QTest::newRow("least width") << least << most;
+    QTest::newRow("least width and height") << least << least;
+    QTest::newRow("no width") << 0 << 4;
+    QTest::newRow("no height") << 4 << 0;
+}
+
+void TestImageDecode::impossibleBmpSizeIsRefused()
+{
+    QFETCH(qint32, width);
+    QFETCH(qint32, height);
+    QByteArray bmp = SampleImages::Encoded(QStringLiteral("bmp"), SampleImages::Filled({4, 4}, Qt::white));
+    qToLittleEndian(width, bmp.data() + 18);
+    qToLittleEndian(height, bmp.data() + 22);
+    qToLittleEndian(quint16(0xffff), bmp.data() + 28); // bits of a pixel
+    bmp.append(QByteArray(1 << 20, '\0'));             // enough for large products
+    const auto header = Host::ReadImageHeader(bmp);
+    QVERIFY(header.size.isEmpty());
+    QVERIFY(!header.isComplete);
+    QVERIFY(Host::DecodeImage(bmp).image.isNull());
+}
+
 void TestImageDecode::emptySizeIsRefused()
 {
     QFETCH(QString, suffix);
@@ -348,6 +423,6 @@ void TestImageDecode::damagedTgaIsSurvived()
     }
 }
 
-QTEST_GUILESS_MAIN(TestImageDecode)
+SOFTCLOTH_TEST_WITH(TestImageDecode, QCoreApplication)
 
 #include "tst_image_decode.moc"

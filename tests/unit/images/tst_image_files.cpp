@@ -1,4 +1,5 @@
 #include "host/images/ImageDecode.h"
+#include "host/scene/Limits.h"
 
 #include "tests/support/FileRefusal.h"
 #include "tests/support/Files.h"
@@ -91,7 +92,7 @@ void TestImageFiles::badFileIsRefusedWithTheReason()
     SampleImages::WriteFile(PathOf(QStringLiteral("huge.png")),
                             SampleImages::HeaderOnly(QStringLiteral("png"), {60000, 60000}));
     QFile hole(PathOf(QStringLiteral("hole.png"))); // takes no room on the disk
-    QVERIFY(hole.open(QIODevice::WriteOnly) && hole.resize(Host::ImageLimits::fileSize + 1));
+    QVERIFY(hole.open(QIODevice::WriteOnly) && hole.resize(Host::Limits::imageFileSize + 1));
     hole.close();
 
     const QString path = name.isEmpty() || name.startsWith(u'/') ? name : PathOf(name);
@@ -143,6 +144,6 @@ void TestImageFiles::messageNamesTheFileAndTheReason()
                  .arg(QDir::toNativeSeparators(QStringLiteral("/maps/flag.png"))));
 }
 
-QTEST_GUILESS_MAIN(TestImageFiles)
+SOFTCLOTH_TEST_WITH(TestImageFiles, QCoreApplication)
 
 #include "tst_image_files.moc"

@@ -284,6 +284,6 @@ void TestImageStore::storeMayGoWhileLoading()
     QCOMPARE(done.count(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestImageStore)
+SOFTCLOTH_TEST_WITH(TestImageStore, QCoreApplication)
 
 #include "tst_image_store.moc"

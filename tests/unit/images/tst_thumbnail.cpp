@@ -110,6 +110,6 @@ void TestThumbnail::reducedKeepsWhatIsSmall()
     QCOMPARE(qGray(large.pixel(80, 25)), 255);
 }
 
-QTEST_MAIN(TestThumbnail)
+SOFTCLOTH_TEST(TestThumbnail)
 
 #include "tst_thumbnail.moc"

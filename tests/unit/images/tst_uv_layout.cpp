@@ -4,6 +4,9 @@
 #include "tests/support/SampleImages.h"
 #include "tests/support/TestCase.h"
 
+#include <QRandomGenerator>
+
+#include <ctime>
 #include <limits>
 
 using Host::DrawUvLayout;
@@ -18,6 +21,9 @@ private Q_SLOTS:
     void verticalAxisPointsUp();
     void repeatedTrianglesAreDrawnInTheUnitSquare_data();
     void repeatedTrianglesAreDrawnInTheUnitSquare();
+    void longEdgeIsDrawnInTheTilesThatItCrosses();
+    void scatteredUvsAreDrawnQuickly_data();
+    void scatteredUvsAreDrawnQuickly();
     void impossibleUvsAreLeftOut_data();
     void impossibleUvsAreLeftOut();
     void onlyTheGivenSlotsAreDrawn();
@@ -104,6 +110,43 @@ void TestUvLayout::repeatedTrianglesAreDrawnInTheUnitSquare()
     QVERIFY(!HasLine(across, 0.5, 0.25));
 }
 
+void TestUvLayout::longEdgeIsDrawnInTheTilesThatItCrosses()
+{
+    // From (0.5, 0.5) a slope of a half through the tiles (0, 0), (1, 0), (1, 1) and (2, 1), but not (0, 1) nor (2, 0).
+    const QImage layout = Layout(Triangle({0.5F, 0.5F}, {2.5F, 1.5F}, {0.5F, 0.5F}));
+    QVERIFY(HasLine(layout, 0.9, 0.7));  // (0, 0)
+    QVERIFY(HasLine(layout, 0.2, 0.85)); // (1, 0)
+    QVERIFY(HasLine(layout, 0.7, 0.1));  // (1, 1)
+    QVERIFY(HasLine(layout, 0.2, 0.35)); // (2, 1)
+    QVERIFY(!HasLine(layout, 0.6, 0.8));
+    QVERIFY(!HasLine(layout, 0.1, 0.65));
+}
+
+void TestUvLayout::scatteredUvsAreDrawnQuickly_data()
+{
+    QTest::addColumn<int>("triangles");
+    QTest::newRow("few") << 500;
+    QTest::newRow("many") << 3000;
+}
+
+void TestUvLayout::scatteredUvsAreDrawnQuickly()
+{
+    QFETCH(const int, triangles);
+    QRandomGenerator random(1);
+    Mesh mesh;
+    mesh.materialSlots = {{1, {}, {}}};
+    for (int i = 0; i < 3 * triangles; ++i) {
+        mesh.uvs.emplace_back(float(random.bounded(128.0)) - 64.0F, float(random.bounded(128.0)) - 64.0F);
+        mesh.materialSlots[0].indices.push_back(quint32(i));
+    }
+    mesh.positions.resize(mesh.uvs.size());
+    const std::clock_t begin = std::clock(); // not disturbed by what else runs
+    const QImage layout = Layout(mesh);
+    const double seconds = double(std::clock() - begin) / CLOCKS_PER_SEC;
+    QVERIFY2(seconds < 10.0, qPrintable(QString::number(seconds))); // the processor time of one core
+    QVERIFY(HasLine(layout, 0.5, 0.5));
+}
+
 void TestUvLayout::impossibleUvsAreLeftOut_data()
 {
     QTest::addColumn<float>("value");
@@ -155,6 +198,6 @@ void TestUvLayout::sizeFitsImageEditors()
     QCOMPARE(DrawUvLayout(SampleImages::Filled(texture, Qt::gray), {}).size(), layout);
 }
 
-QTEST_MAIN(TestUvLayout)
+SOFTCLOTH_TEST(TestUvLayout)
 
 #include "tst_uv_layout.moc"

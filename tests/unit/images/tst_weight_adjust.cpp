@@ -147,6 +147,6 @@ void TestWeightAdjust::transparentPixelsAreBlack()
              255);
 }
 
-QTEST_GUILESS_MAIN(TestWeightAdjust)
+SOFTCLOTH_TEST_WITH(TestWeightAdjust, QCoreApplication)
 
 #include "tst_weight_adjust.moc"

@@ -204,6 +204,6 @@ void TestWeightSampling::gridIsCountedExactly()
     QCOMPARE(Host::CountMovingVertices(mesh, slot, SampleImages::HalfBlack({64, 64}), unchanged), half);
 }
 
-QTEST_GUILESS_MAIN(TestWeightSampling)
+SOFTCLOTH_TEST_WITH(TestWeightSampling, QCoreApplication)
 
 #include "tst_weight_sampling.moc"

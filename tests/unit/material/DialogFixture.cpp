@@ -55,37 +55,17 @@ void DialogFixture::Open(Host::Object model)
 
 QStringList DialogFixture::Take()
 {
-    QStringList texts;
-    for (const Host::JournalEntry& entry : host.Journal().Entries()) {
-        if (entry.kind == Host::JournalEntry::Kind::Call) {
-            texts.append(entry.ToString());
-        }
-    }
-    host.Journal().Clear();
-    return texts;
+    return TakeCalls(host.Journal());
 }
 
 QStringList DialogFixture::TakeOperations()
 {
-    QStringList names;
-    const QStringList texts = Take();
-    for (const QString& text : texts) {
-        names.append(text.section(QLatin1Char('('), 0, 0));
-    }
-    return names;
+    return ::TakeOperations(host.Journal());
 }
 
 void DialogFixture::During(const char* operation, std::function<void()> action)
 {
-    auto connection = std::make_shared<QMetaObject::Connection>();
-    const QString name = QString::fromLatin1(operation);
-    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, &host,
-                                   [this, connection, name, action = std::move(action)](int index) {
-                                       if (host.Journal().Entries().at(index).operation == name) {
-                                           QObject::disconnect(*connection);
-                                           action();
-                                       }
-                                   });
+    ::During(host, operation, std::move(action));
 }
 
 void DialogFixture::Click(const char* buttonName) const

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "material/SoftClothMaterialDlg.h"
+#include "material/SoftClothMaterialTable.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
-#include "preset/SoftClothMaterialTable.h"
 #include "tests/support/Children.h"
+#include "tests/support/HostCalls.h"
 #include "tests/support/ImageHost.h"
 #include "tests/support/SampleModels.h"
 
@@ -70,7 +71,7 @@ namespace Journal {
 /// A message box with Ok only and the panel's title.
 QString Message(const QString& text);
 QString Refresh();      ///< The refresh of the whole panel.
-QString RefreshScene(); ///< The host draws its scene anew.
+QString RefreshScene(); ///< The host draws its scene again.
 /// The operations of the dialog's own refresh when nothing has a texture.
 QStringList DialogRefresh();
 /// A thumbnail drawn with as many pixels as its label has on the screen.

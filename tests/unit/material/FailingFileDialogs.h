@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// Scene service whose file dialogs hand out a path and answer a failure all the same.
+/// Scene service whose file dialogs return a path and a failure all the same.
 class FailingFileDialogs : public Forwarding::SceneService
 {
 public:

@@ -154,5 +154,5 @@ void TestDialogEvents::familyBRowClickUpdatesTheSettings()
                      : QStringList());
 }
 
-QTEST_MAIN(TestDialogEvents)
+SOFTCLOTH_TEST(TestDialogEvents)
 #include "tst_dialog_events.moc"

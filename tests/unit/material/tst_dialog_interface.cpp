@@ -74,11 +74,11 @@ void TestDialogInterface::textsAreTranslatedInTheirContexts()
     const NotingTranslator translator;
     DialogFixture fixture;
     fixture.Open();
-    // There is no diffuse texture, of which the user is told.
+    // There is no diffuse texture, which a message says.
     fixture.Click("qtUvRefPushButton");
     QVERIFY(fixture.TakeOperations().contains(QStringLiteral("ShowMessageBox")));
     QCOMPARE(translator.ContextsOf(text), QList<QByteArray>{context});
 }
 
-QTEST_MAIN(TestDialogInterface)
+SOFTCLOTH_TEST(TestDialogInterface)
 #include "tst_dialog_interface.moc"

@@ -252,5 +252,5 @@ void TestIgnoredNames::dialogMayDieInsideTheFileDialog()
     QCOMPARE(fixture.Take(), QStringList());
 }
 
-QTEST_MAIN(TestIgnoredNames)
+SOFTCLOTH_TEST(TestIgnoredNames)
 #include "tst_ignored_names.moc"

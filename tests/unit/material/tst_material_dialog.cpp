@@ -472,7 +472,7 @@ void TestMaterialDialog::dialogMayDieInsideTheTable()
     QVERIFY(!fixture.dialog);
     QCOMPARE(fixture.Take(), QStringList());
 
-    // Both at once, as when the plug-in goes away.
+    // Both at once, as when the plug-in is destroyed.
     DialogFixture second;
     second.Open();
     QTimer::singleShot(0, second.table.data(), [&] {
@@ -499,5 +499,5 @@ void TestMaterialDialog::tableMayBeGone()
     QVERIFY(second.Take().contains(Journal::Refresh()));
 }
 
-QTEST_MAIN(TestMaterialDialog)
+SOFTCLOTH_TEST(TestMaterialDialog)
 #include "tst_material_dialog.moc"

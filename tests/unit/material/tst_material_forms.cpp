@@ -2,7 +2,7 @@
 #include "tests/unit/material/DialogFixture.h"
 
 #include "material/SoftClothMaterialDlgUiComponent.h"
-#include "preset/SoftClothMaterialTableUiComponent.h"
+#include "material/SoftClothMaterialTableUiComponent.h"
 #include "ui/QtUiLoader.h"
 
 #include <BFQtCustomWidgetPluginU/QComboSpinBox.h>
@@ -278,5 +278,5 @@ void TestMaterialForms::escapeActionsHaveNoKeyOfTheirOwn()
     QCOMPARE(fixture.Find<QAction>("qtDoEscapeAction")->shortcut(), QKeySequence(Qt::Key_Escape));
 }
 
-QTEST_MAIN(TestMaterialForms)
+SOFTCLOTH_TEST(TestMaterialForms)
 #include "tst_material_forms.moc"

@@ -1,7 +1,7 @@
 #include "tests/support/TestCase.h"
 #include "tests/unit/material/DialogFixture.h"
 
-#include "plugin/HostIds.h"
+#include "panel/HostIds.h"
 
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -260,7 +260,7 @@ void TestMaterialList::failedQueryEndsTheRebuild()
     fixture.List();
     const QString before = SelectedNames(fixture);
 
-    // Another object, so that one can tell whose rows the table shows.
+    // Another object, so that it is clear whose rows the table shows.
     Host::Object& second = fixture.host.CurrentScene().AddObject(
         SampleModels::Make(QStringLiteral("Second"), {{QStringLiteral("A"), {QStringLiteral("a"), QStringLiteral("b")}},
                                                       {QStringLiteral("B"), {QStringLiteral("c")}}}));
@@ -498,5 +498,5 @@ void TestMaterialList::pickingIsSilent()
     QVERIFY(!fixture.Take().contains(Journal::Refresh()));
 }
 
-QTEST_MAIN(TestMaterialList)
+SOFTCLOTH_TEST(TestMaterialList)
 #include "tst_material_list.moc"

@@ -1,8 +1,6 @@
 #include "tests/support/NotingTranslator.h"
 #include "tests/support/TestCase.h"
-#include "tests/unit/material/DialogFixture.h"
-
-#include "plugin/HostIds.h"
+#include "tests/unit/material/TableFixture.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -51,54 +49,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-struct TableFixture : DialogFixture
-{
-    TableFixture() { Add(); }
-
-    /// Gives the table all materials of the object.
-    void SetRows()
-    {
-        BF::CArrayList<BF::CHandle*> materials;
-        BF::CArrayList<BF::CHandle*> meshes;
-        for (const Host::ClothAddress& address : Host::Scene::SlotsOf(*object)) {
-            materials.Add(MV::IdAsHandle(address.material));
-            meshes.Add(MV::IdAsHandle(address.mesh));
-        }
-        table->SetMaterialRows(materials, meshes);
-    }
-
-    void Fill()
-    {
-        SetRows();
-        table->FillTable();
-        Take();
-    }
-
-    void ShowTable()
-    {
-        table->show();
-        QVERIFY(QTest::qWaitForWindowExposed(table.data()));
-        QApplication::setActiveWindow(table.data());
-    }
-
-    QTableWidget& Rows() const { return *Child<QTableWidget>(table.data(), "qtMaterialTableWidget"); }
-    QPushButton& Confirm() const { return *Child<QPushButton>(table.data(), "qtConfirmPushButton"); }
-    QPushButton& Cancel() const { return *Child<QPushButton>(table.data(), "qtCancelPushButton"); }
-    QCheckBox& Box(int row) const { return *Rows().cellWidget(row, 0)->findChild<QCheckBox*>(); }
-    void Tick(int row) const { QTest::mouseClick(&Box(row), Qt::LeftButton, {}, Box(row).rect().center()); }
-
-    QStringList Texts() const
-    {
-        QStringList texts;
-        for (int row = 0; row < Rows().rowCount(); ++row) {
-            texts.append(QStringLiteral("%1 %2 %3")
-                             .arg(QLatin1Char(Box(row).isChecked() ? 'x' : '-'))
-                             .arg(Rows().item(row, 1)->text(), Rows().item(row, 2)->text()));
-        }
-        return texts;
-    }
-};
 
 const QStringList heroRows{QStringLiteral("x Body Skin"), QStringLiteral("x Body Hair"),
                            QStringLiteral("x Clothes Skirt")};
@@ -403,7 +353,7 @@ void TestMaterialTable::confirmSurvivesARefillInTheMiddle()
     for (const int row : {0, 1}) {
         fixture.Tick(row);
     }
-    // The first write makes the host tell of the new material list, whereupon the table is filled anew, with one
+    // The first write makes the host report the new material list, whereupon the table is filled again, with one
     // material less.
     fixture.During("SetMaterialSoftClothEnabled", [&] {
         fixture.table->SetMaterialRows({MV::IdAsHandle(fixture.MaterialId(0))}, {MV::IdAsHandle(fixture.MeshId(0))});
@@ -505,5 +455,5 @@ void TestMaterialTable::visibleTableStaysVisibleAndFocusedThroughAFill()
     QVERIFY(fixture.Rows().isHidden());
 }
 
-QTEST_MAIN(TestMaterialTable)
+SOFTCLOTH_TEST(TestMaterialTable)
 #include "tst_material_table.moc"

@@ -173,5 +173,5 @@ void TestTextureEditing::uvReferenceThatFailsIsToldToTheUser()
     QCOMPARE(calls.last(), Journal::Message(QStringLiteral("Failed to launch image editor.")));
 }
 
-QTEST_MAIN(TestTextureEditing)
+SOFTCLOTH_TEST(TestTextureEditing)
 #include "tst_texture_editing.moc"

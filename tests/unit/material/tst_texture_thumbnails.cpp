@@ -14,7 +14,7 @@
 
 using MV::ETextureChannel;
 
-/// The three pictures: how they are drawn, which of them is current, and when they are drawn anew.
+/// The three pictures: how they are drawn, which of them is current, and when they are drawn again.
 class TestTextureThumbnails : public TestCase
 {
     Q_OBJECT
@@ -126,7 +126,7 @@ void TestTextureThumbnails::textureIsOpenedAndDrawn_data()
     QTest::addColumn<bool>("hasSource");
     QTest::addColumn<bool>("embedded");
     QTest::addColumn<bool>("loads");
-    QTest::addColumn<QStringList>("calls"); ///< After the state; %1 stands for the channel.
+    QTest::addColumn<QStringList>("calls"); ///< After the state; %1 is the channel.
 
     const QString isEmbedded = QStringLiteral("IsTextureEmbedded(\"Skin\") -> %1");
     const QString load = QStringLiteral("LoadTextureSource(\"Skin\", %1) -> ");
@@ -518,5 +518,5 @@ void TestTextureThumbnails::changedTextureOfAnotherObjectOrMaterial()
     QCOMPARE(fixture.Take().size(), calls);
 }
 
-QTEST_MAIN(TestTextureThumbnails)
+SOFTCLOTH_TEST(TestTextureThumbnails)
 #include "tst_texture_thumbnails.moc"

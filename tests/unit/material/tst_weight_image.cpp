@@ -179,7 +179,7 @@ void TestWeightImage::reloadIsDecidedByStateOrArgument_data()
     QTest::addColumn<QByteArray>("by");
     QTest::addColumn<bool>("stateSaysReload");
     QTest::addColumn<bool>("reloads");
-    // A refresh draws anew and asks for a reload, a click on the label only asks for one, a click on a row does
+    // A refresh draws again and asks for a reload, a click on the label only asks for one, a click on a row does
     // neither.
     const auto rows = [](const char* by, bool reloadsIfStateSaysSo, bool reloadsOtherwise) {
         QTest::addRow("%s, state yes", by) << QByteArray(by) << true << reloadsIfStateSaysSo;
@@ -416,5 +416,5 @@ void TestWeightImage::otherCurrentLabelLeavesTheWidgetsAlone()
     QCOMPARE(fixture.Contrast().Value(), 12);
 }
 
-QTEST_MAIN(TestWeightImage)
+SOFTCLOTH_TEST(TestWeightImage)
 #include "tst_weight_image.moc"

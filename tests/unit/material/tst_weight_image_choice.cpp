@@ -307,5 +307,5 @@ void TestWeightImageChoice::dialogMayDieDuringTheFileDialogs()
     QCOMPARE(fixture.TakeOperations(), QStringList{operation});
 }
 
-QTEST_MAIN(TestWeightImageChoice)
+SOFTCLOTH_TEST(TestWeightImageChoice)
 #include "tst_weight_image_choice.moc"

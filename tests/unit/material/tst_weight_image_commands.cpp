@@ -184,7 +184,7 @@ void TestWeightImageCommands::embeddingSwitchesTheWidgets()
         fixture.Find<QWidget>(name.toLatin1().constData())->setEnabled(false);
     }
     fixture.Find<QLineEdit>("qtBitmapPathLineEdit")->setText(QStringLiteral("stale"));
-    // The last question comes after the switching and decides anew; without its answer the switching stands alone.
+    // The last question comes after the switching and decides again; without its answer only the switching counts.
     fixture.host.plan.hasWeightTexture = true;
     fixture.host.Faults().FailOperation(QStringLiteral("GetWeightImageState"), BF::Results::Refused);
     fixture.Click("qtEmbedTexturePushButton");
@@ -254,5 +254,5 @@ void TestWeightImageCommands::folderOfAMissingFileIsToldToTheUser()
     QCOMPARE(fixture.Take().mid(1), QStringList{Journal::Message(QStringLiteral("InValid File Path."))});
 }
 
-QTEST_MAIN(TestWeightImageCommands)
+SOFTCLOTH_TEST(TestWeightImageCommands)
 #include "tst_weight_image_commands.moc"

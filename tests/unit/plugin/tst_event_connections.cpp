@@ -172,5 +172,5 @@ void TestEventConnections::dialogModeChangeIsFollowedInFamilyBOnly()
     QCOMPARE(fixture.ConnectionCount(SIGNAL(ObjectSelectionChanged())), 1);
 }
 
-QTEST_MAIN(TestEventConnections)
+SOFTCLOTH_TEST(TestEventConnections)
 #include "tst_event_connections.moc"

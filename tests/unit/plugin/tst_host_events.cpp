@@ -203,7 +203,7 @@ void TestHostEvents::playingDisablesWithoutRefreshing()
                                           QStringLiteral("Property.EnableSection(false)"),
                                           QStringLiteral("Collision.EnableSection(false)"),
                                           QStringLiteral("Wind.EnableSection(false)")}));
-    // An event during playback refreshes as ever.
+    // An event during playback refreshes as always.
     Q_EMIT fixture.host.GetEventSender()->ObjectDeleted({});
     QVERIFY(ShownFixture::IsRefresh(fixture.Take()));
 }
@@ -309,5 +309,5 @@ void TestHostEvents::pickedNullIsWhatAnEmptyPanelShows()
                                           QStringLiteral("IsPhysicsActive")}));
 }
 
-QTEST_MAIN(TestHostEvents)
+SOFTCLOTH_TEST(TestHostEvents)
 #include "tst_host_events.moc"

@@ -90,7 +90,7 @@ void TestObjectDataChanged::objectDataChanged()
     } else if (outcome == QLatin1String("names")) {
         QCOMPARE(calls, QStringList{QStringLiteral("Dialog.RefreshMaterialStates")});
     } else {
-        // Without its object the panel adopts the selected one anew.
+        // Without its object the panel adopts the selected one again.
         QVERIFY(reloadsAll && refreshes);
         QCOMPARE(fixture.plugin->Selection().object, fixture.object->handle);
         QCOMPARE(fixture.plugin->Selection().mesh, std::size_t(0));
@@ -169,5 +169,5 @@ void TestObjectDataChanged::materialListBitAsksForTheFirstSelectedObject()
     QCOMPARE(fixture.TakeParts(), QStringList());
 }
 
-QTEST_MAIN(TestObjectDataChanged)
+SOFTCLOTH_TEST(TestObjectDataChanged)
 #include "tst_object_data_changed.moc"

@@ -197,7 +197,7 @@ void TestPanelGates::unansweredQuestionHasItsPreset()
     PluginFixture fixture;
     fixture.Initialize();
     fixture.AddSelected().traits = {5, 0, 3, false, false};
-    // The host answers that all is well and leaves the value as it is.
+    // The host reports success and leaves the value as it is.
     fixture.host.Faults().FailOperation(operation, BF::Results::Success);
     QCOMPARE(fixture.plugin->UpdateUi(), isShown ? BF::Results::Success : BF::Results::NothingDone);
     QVERIFY(fixture.Take().contains(operation));
@@ -295,5 +295,5 @@ void TestPanelGates::failingHostCallIsReturned()
              "a failure neither shows nor hides the panel");
 }
 
-QTEST_MAIN(TestPanelGates)
+SOFTCLOTH_TEST(TestPanelGates)
 #include "tst_panel_gates.moc"

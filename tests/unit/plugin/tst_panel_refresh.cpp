@@ -221,5 +221,5 @@ void TestPanelRefresh::showAllReachesTheSectionsInOrder()
     QCOMPARE(fixture.Take(), shown);
 }
 
-QTEST_MAIN(TestPanelRefresh)
+SOFTCLOTH_TEST(TestPanelRefresh)
 #include "tst_panel_refresh.moc"

@@ -134,5 +134,5 @@ void TestServicesAnew::startingAsksForTheMainWindowAnew()
     }
 }
 
-QTEST_MAIN(TestServicesAnew)
+SOFTCLOTH_TEST(TestServicesAnew)
 #include "tst_services_anew.moc"

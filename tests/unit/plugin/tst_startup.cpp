@@ -343,5 +343,5 @@ void TestStartup::selectionStartsZeroedAndClearsThreeFields()
     QVERIFY(selection.softClothActive && selection.affectAllMaterials);
 }
 
-QTEST_MAIN(TestStartup)
+SOFTCLOTH_TEST(TestStartup)
 #include "tst_startup.moc"

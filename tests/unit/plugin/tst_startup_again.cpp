@@ -117,5 +117,5 @@ void TestStartupAgain::missingResourceFileLeavesThePartsAlone()
     QCOMPARE(fixture.ConnectionCount(SIGNAL(HierarchyChanged())), 1);
 }
 
-QTEST_MAIN(TestStartupAgain)
+SOFTCLOTH_TEST(TestStartupAgain)
 #include "tst_startup_again.moc"

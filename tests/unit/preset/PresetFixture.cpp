@@ -65,44 +65,26 @@ void PresetFixture::DisableMaterial(const Host::Object& object, int material)
     host.Journal().Clear();
 }
 
-QStringList PresetFixture::Take(const std::function<bool(const Host::JournalEntry&)>& isWanted)
-{
-    QStringList texts;
-    for (const Host::JournalEntry& entry : host.Journal().Entries()) {
-        if (entry.kind == Host::JournalEntry::Kind::Call && isWanted(entry)) {
-            texts.append(entry.ToString());
-        }
-    }
-    host.Journal().Clear();
-    return texts;
-}
-
 QStringList PresetFixture::Take()
 {
-    return Take([](const Host::JournalEntry& entry) { return entry.depth == 0; });
+    return TakeCalls(host.Journal(), [](const Host::JournalEntry& entry) { return entry.depth == 0; });
 }
 
 QStringList PresetFixture::TakeActions()
 {
-    return Take([](const Host::JournalEntry& entry) {
+    return TakeCalls(host.Journal(), [](const Host::JournalEntry& entry) {
         return entry.service != QLatin1String("Scene") && entry.service != QLatin1String("HotKey");
     });
 }
 
 QString PresetFixture::Triple() const
 {
-    const MV::SoftClothSelection& selection = plugin->Selection();
-    const Host::JournalText text(host.CurrentScene());
-    return QStringList{text(selection.object), text(Host::ToHandle(selection.mesh)),
-                       text(Host::ToHandle(selection.material))}
-        .join(QLatin1String(", "));
+    return SelectionText(host, plugin->Selection());
 }
 
 QString PresetFixture::Call(const char* operation, const QStringList& arguments, const char* result) const
 {
-    return QStringLiteral("%1(%2) -> %3")
-        .arg(QLatin1String(operation), (QStringList{Triple()} + arguments).join(QLatin1String(", ")),
-             QLatin1String(result));
+    return CallText(host, plugin->Selection(), operation, arguments, result);
 }
 
 void PresetFixture::Click(const char* button) const
@@ -137,14 +119,7 @@ void PresetFixture::Invoke(const char* slot) const
 
 void PresetFixture::During(const char* operation, std::function<void()> action)
 {
-    auto connection = std::make_shared<QMetaObject::Connection>();
-    const auto check = [this, connection, operation, action = std::move(action)](int index) {
-        if (host.Journal().Entries().at(index).operation == QLatin1String(operation)) {
-            QObject::disconnect(*connection);
-            action();
-        }
-    };
-    *connection = QObject::connect(&host.Journal(), &Host::CallJournal::EntryAdded, &host, check);
+    ::During(host, operation, std::move(action));
 }
 
 bool IsBodyEnabled(const QWidget* section)

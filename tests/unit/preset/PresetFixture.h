@@ -5,6 +5,7 @@
 #include "preset/SoftClothPresetSection.h"
 #include "tests/support/Children.h"
 #include "tests/support/Files.h"
+#include "tests/support/HostCalls.h"
 #include "tests/support/NotingTranslator.h"
 #include "tests/support/SampleModels.h"
 
@@ -71,9 +72,6 @@ public:
     QWidget window;
     std::unique_ptr<MV::CPhysicsSoftClothPlugin> plugin;
     QPointer<MV::CSoftClothPresetSection> section;
-
-private:
-    QStringList Take(const std::function<bool(const Host::JournalEntry&)>& isWanted);
 };
 
 /// Whether the body of any of the panel's sections is enabled.

@@ -12,6 +12,10 @@ class TestPresetApply : public TestCase
 private Q_SLOTS:
     void doubleClickAppliesTheCurrentItem_data();
     void doubleClickAppliesTheCurrentItem();
+    void keysApplyTheCurrentItemOnce_data();
+    void keysApplyTheCurrentItemOnce();
+    void keysOfAListWithoutCurrentItemDoNothing();
+    void sectionMayEndWhileAKeyAppliesAnItem();
     void nothingElseAppliesAnItem();
     void itemUnderTheMouseDoesNotCount();
     void itemWithoutProfileIsAnInvalidPath();
@@ -71,6 +75,62 @@ void TestPresetApply::doubleClickAppliesTheCurrentItem()
     QVERIFY2(calls.first().startsWith(call), qPrintable(calls.first()));
 }
 
+void TestPresetApply::keysApplyTheCurrentItemOnce_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("onNumberPad");
+    QTest::newRow("Return") << int(Qt::Key_Return) << false;
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << true;
+    QTest::newRow("Space") << int(Qt::Key_Space) << false;
+}
+
+void TestPresetApply::keysApplyTheCurrentItemOnce()
+{
+    QFETCH(const int, key);
+    QFETCH(const bool, onNumberPad);
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    fixture.Find<QTabWidget>("qtPresetTabWidget")->setCurrentIndex(2);
+    QListWidget& list = fixture.List(2);
+    list.setCurrentRow(1);
+    const Qt::KeyboardModifiers modifiers = onNumberPad ? Qt::KeypadModifier : Qt::NoModifier;
+    QTest::keyPress(&list, Qt::Key(key), modifiers);
+    // Held for a while.
+    for (int i = 0; i < 3; ++i) {
+        QKeyEvent again(QEvent::KeyPress, key, modifiers, QString(), true);
+        QApplication::sendEvent(&list, &again);
+    }
+    QTest::keyRelease(&list, Qt::Key(key), modifiers);
+    const QStringList calls = fixture.Take();
+    QCOMPARE(calls.size(), 1);
+    QVERIFY2(calls.first().startsWith(QLatin1String("SetSoftClothWind")), qPrintable(calls.first()));
+    QCOMPARE(list.currentRow(), 1);
+}
+
+void TestPresetApply::keysOfAListWithoutCurrentItemDoNothing()
+{
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    QListWidget& list = fixture.List(0);
+    list.setCurrentItem(nullptr);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        QTest::keyClick(&list, key);
+    }
+    QCOMPARE(fixture.Take(), QStringList());
+}
+
+void TestPresetApply::sectionMayEndWhileAKeyAppliesAnItem()
+{
+    PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
+    fixture.AddCloth();
+    QListWidget& list = fixture.List(0);
+    list.setCurrentRow(3);
+    // The item has no profile, so there is a message, and the section is destroyed while it is shown.
+    fixture.During("ShowMessageBox", [&] { delete fixture.section; });
+    QTest::keyClick(&list, Qt::Key_Return);
+    QVERIFY(!fixture.section);
+}
+
 void TestPresetApply::nothingElseAppliesAnItem()
 {
     PresetFixture fixture(MV::ECompatibleApp::FamilyA, FillData);
@@ -78,8 +138,11 @@ void TestPresetApply::nothingElseAppliesAnItem()
     QListWidget& list = fixture.List(0);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, list.visualItemRect(list.item(0)).center());
     QCOMPARE(list.currentRow(), 0);
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Right, Qt::Key_Left}) {
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Left, Qt::Key_End, Qt::Key_Home, Qt::Key_R}) {
         QTest::keyClick(&list, key);
+    }
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+        QTest::keyClick(&list, key, Qt::ControlModifier);
     }
     QCOMPARE(fixture.Take(), QStringList());
 }
@@ -121,11 +184,9 @@ void TestPresetApply::everyListUnderTheTabsCounts()
     MV::CSoftClothPresetSection section(&fixture.plugin);
     QListWidget* own = nullptr;
     // Somebody has put a list of their own deep into a page by the time that the gallery is filled.
-    connect(&fixture.host.Journal(), &Host::CallJournal::EntryAdded, &section, [&](int index) {
-        if (fixture.host.Journal().Entries().at(index).operation == QLatin1String("GetDataFolderPath")) {
-            auto* page = new QWidget(Child<QWidget>(&section, "qtHairTab"));
-            own = new QListWidget(new QWidget(page));
-        }
+    During(fixture.host, "GetDataFolderPath", [&] {
+        auto* page = new QWidget(Child<QWidget>(&section, "qtHairTab"));
+        own = new QListWidget(new QWidget(page));
     });
     QCOMPARE(section.Init({}, {}, &fixture.host), BF::Results::Success);
     QVERIFY(own);
@@ -163,7 +224,7 @@ void TestPresetApply::presetsAddedLaterDoNotAppear()
     Files::Write(fixture.data.filePath(QStringLiteral("PhysicsSoftPreset/0/2_Later.png")), ImageBytes({8, 8}));
     fixture.section->UpdateUi(false);
     QVERIFY(fixture.List(0).item(1)->icon().isNull());
-    // A profile is read anew each time.
+    // A profile is read again each time.
     Files::Write(fixture.data.filePath(QStringLiteral("PhysicsSoftPreset/0/1_First.ini")),
                  "[Wind_Setting]\nWind_Frequency=3\n");
     fixture.host.Journal().Clear();
@@ -171,5 +232,5 @@ void TestPresetApply::presetsAddedLaterDoNotAppear()
     QVERIFY(fixture.Take().constFirst().startsWith(QLatin1String("SetSoftClothWind")));
 }
 
-QTEST_MAIN(TestPresetApply)
+SOFTCLOTH_TEST(TestPresetApply)
 #include "tst_preset_apply.moc"

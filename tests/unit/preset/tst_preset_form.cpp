@@ -46,11 +46,11 @@ constexpr const char* componentNames =
     "qtAffectAllMaterialsCheckBox qtUseWorldGravityCheckBox qtBaseGroupBox qtSectionGroupBox qtSoftPresetGroupBox "
     "qtWeightSelectGroupBox qtPresetClothListWidget qtPresetHairListWidget qtPresetWindListWidget qtExpandPushButton "
     "qtOpenFilePushButton qtPaintPushButton qtSaveFilePushButton qtRigidBodyRadioButton qtSoftClothRadioButton "
-    "qtPresetTabWidget SoftClothPreset qtClothTab qtHairTab qtWindTab";
+    "qtPresetTabWidget SoftClothPreset qtClothTab qtHairTab qtWindTab qtEditedMaterialLabel";
 
 constexpr const char* radioButtons[] = {"qtRigidBodyRadioButton", "qtSoftClothRadioButton"};
 
-/// A host that tells of its data folder without a separator at the end.
+/// A host that reports its data folder without a separator at the end.
 class BareFolderHost : public Host::HostApplication
 {
 public:
@@ -335,5 +335,5 @@ void TestPresetForm::expandButtonFoldsTheSection()
     QVERIFY(!fixture.section->GetSectionExpandState());
 }
 
-QTEST_MAIN(TestPresetForm)
+SOFTCLOTH_TEST(TestPresetForm)
 #include "tst_preset_form.moc"

@@ -356,5 +356,5 @@ void TestPresetGallery::profileOfNothingIsEmpty()
     QCOMPARE(MV::ProfileOf(List(0).item(0)), QString());
 }
 
-QTEST_MAIN(TestPresetGallery)
+SOFTCLOTH_TEST(TestPresetGallery)
 #include "tst_preset_gallery.moc"

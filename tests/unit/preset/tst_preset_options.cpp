@@ -229,5 +229,5 @@ void TestPresetOptions::rigidBodyCanBeUndone()
     QVERIFY(fixture.IsEnabled("qtRigidBodyRadioButton"));
 }
 
-QTEST_MAIN(TestPresetOptions)
+SOFTCLOTH_TEST(TestPresetOptions)
 #include "tst_preset_options.moc"

@@ -206,5 +206,5 @@ void TestPresetPrompt::textsAreTranslatedWithTheirNotes()
                  QStringLiteral("[Physics Soft Cloth Section] Movira 6 <Message Title>")}));
 }
 
-QTEST_MAIN(TestPresetPrompt)
+SOFTCLOTH_TEST(TestPresetPrompt)
 #include "tst_preset_prompt.moc"

@@ -1,9 +1,13 @@
+#include "material/SoftClothMaterialDlg.h"
+#include "sections/SoftClothCollisionSection.h"
+#include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/preset/PresetFixture.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>
+#include <QSettings>
 #include <QTabWidget>
 
 /// What the host does inside the section's own calls: it shows something else, or is rid of the panel.
@@ -18,6 +22,10 @@ private Q_SLOTS:
     void outdatedRefreshEndsAfterTheGravityWrite();
     void nothingIsEnabledAgainAfterTheGravityWrite_data();
     void nothingIsEnabledAgainAfterTheGravityWrite();
+    void nothingStaysEnabledForASelectionThatIsGone_data();
+    void nothingStaysEnabledForASelectionThatIsGone();
+    void dialogClosedInAnOpenModeComesBackAtOnePress();
+    void sectionsWithoutAHostDoNothing();
     void pluginMayDieInsideTheQuestion_data();
     void pluginMayDieInsideTheQuestion();
     void pluginMayDieInsideAWrite_data();
@@ -184,6 +192,72 @@ void TestPresetReentry::nothingIsEnabledAgainAfterTheGravityWrite()
     QVERIFY(!fixture.IsEnabled("qtAffectAllMaterialsCheckBox"));
 }
 
+void TestPresetReentry::nothingStaysEnabledForASelectionThatIsGone_data()
+{
+    QTest::addColumn<QByteArray>("operation");
+    QTest::newRow("in the write") << QByteArray("SetPhysicsActive");
+    QTest::newRow("in the rebuild") << QByteArray("GetMeshList");
+    QTest::newRow("in the refresh") << QByteArray("IsPhysicsActive");
+}
+
+void TestPresetReentry::nothingStaysEnabledForASelectionThatIsGone()
+{
+    QFETCH(const QByteArray, operation);
+    PresetFixture fixture;
+    const Host::Object& hero = fixture.AddCloth();
+    fixture.Click(activeBox);
+    QVERIFY(!hero.state.softCloth);
+    fixture.During(operation, [&] { fixture.host.Select({}); });
+    fixture.Click(activeBox);
+    if (operation != "SetPhysicsActive") {
+        // Whatever the switch did not ask comes with the next event.
+        fixture.host.Select({});
+    }
+    QCOMPARE(fixture.Selection().object, nullptr);
+    QVERIFY(!IsBodyEnabled(fixture.plugin->PropertySection()));
+    QVERIFY(!IsBodyEnabled(fixture.plugin->CollisionSection()));
+    QVERIFY(!IsBodyEnabled(fixture.plugin->WindSection()));
+}
+
+void TestPresetReentry::dialogClosedInAnOpenModeComesBackAtOnePress()
+{
+    PresetFixture fixture;
+    fixture.AddCloth();
+    fixture.Click("qtPaintPushButton");
+    MV::CSoftClothMaterialDlg& dialog = *fixture.plugin->MaterialDlg();
+    QVERIFY(dialog.isVisible());
+    fixture.host.Faults().FailOperation(QStringLiteral("SetDialogMode"), BF::Results::InvalidArgument, 1);
+    dialog.close();
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(fixture.host.CurrentScene().dialogMode, MV::EDialogMode::WeightMap);
+    fixture.Click("qtPaintPushButton");
+    QVERIFY(dialog.isVisible());
+    fixture.Click("qtPaintPushButton");
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(fixture.host.CurrentScene().dialogMode, MV::EDialogMode::None);
+}
+
+void TestPresetReentry::sectionsWithoutAHostDoNothing()
+{
+    MV::CPhysicsSoftClothPlugin plugin;
+    MV::CSoftClothPresetSection preset(&plugin);
+    for (const char* slot : {"OnClickActivePhysicsCheckBox", "OnClickUseWorldGravityCheckBox",
+                             "OnClickAffectAllMaterialsCheckBox", "OnClickLoadIniPushButton",
+                             "OnClickOpenFilePushButton", "OnClickSaveFilePushButton", "OnClickPaintPushButton"}) {
+        QVERIFY2(QMetaObject::invokeMethod(&preset, slot, Qt::DirectConnection), slot);
+    }
+    const QTemporaryDir folder;
+    QSettings profile(folder.filePath(QStringLiteral("a.ini")), QSettings::IniFormat);
+    MV::CSoftClothPropertySection property(&plugin);
+    MV::CSoftClothCollisionSection collision(&plugin);
+    MV::CSoftClothWindSection wind(&plugin);
+    property.LoadProfile(profile);
+    collision.LoadProfile(profile);
+    wind.LoadProfile(profile);
+    property.SaveProfile(profile);
+    QVERIFY(profile.allKeys().isEmpty());
+}
+
 void TestPresetReentry::pluginMayDieInsideTheQuestion_data()
 {
     QTest::addColumn<int>("answer");
@@ -241,5 +315,5 @@ void TestPresetReentry::pluginMayDieInsideAWrite()
     QCOMPARE(OperationsOf(fixture.Take()).join(QLatin1Char(' ')), calls);
 }
 
-QTEST_MAIN(TestPresetReentry)
+SOFTCLOTH_TEST(TestPresetReentry)
 #include "tst_preset_reentry.moc"

@@ -353,5 +353,5 @@ void TestPresetRefresh::playingDisablesTheWholeSection()
     QVERIFY(fixture.Find<QWidget>("qtSoftPresetGroupBox")->isEnabled());
 }
 
-QTEST_MAIN(TestPresetRefresh)
+SOFTCLOTH_TEST(TestPresetRefresh)
 #include "tst_preset_refresh.moc"

@@ -149,7 +149,7 @@ void TestPresetSwitch::missingDialogIsPassedOver()
     fixture.host.Journal().Clear();
     fixture.host.Faults().FailOperation(QStringLiteral("SetPhysicsActive"), BF::Results::Refused);
     fixture.Click(activeBox);
-    // What comes after the dialog is refreshed as ever.
+    // What comes after the dialog is refreshed as always.
     QCOMPARE(OperationsOf(fixture.Take()),
              (QStringList{QStringLiteral("IsSoftClothActive"), QStringLiteral("SetPhysicsActive"),
                           QStringLiteral("GetObjectKind"), QStringLiteral("IsSoftClothActive"),
@@ -166,7 +166,7 @@ void TestPresetSwitch::objectWithoutMaterialsIsRefused()
     fixture.DisableMaterial(flag, 0);
     QCOMPARE(fixture.plugin->MaterialDlg()->MaterialCount(), 0);
     fixture.Click(activeBox);
-    // The box going off runs the slot once more, before the user is told.
+    // The box going off runs the slot once more, before the message.
     QCOMPARE(fixture.Take(),
              (QStringList{fixture.Call("IsSoftClothActive", {QStringLiteral("false")}),
                           Journal::SetPhysicsActive("Flag", false), Journal::GetDialogMode(0),
@@ -232,5 +232,5 @@ void TestPresetSwitch::switchingOffLeavesTheWeightMaps()
     QVERIFY(!fixture.IsEnabled("qtSaveFilePushButton"));
 }
 
-QTEST_MAIN(TestPresetSwitch)
+SOFTCLOTH_TEST(TestPresetSwitch)
 #include "tst_preset_switch.moc"

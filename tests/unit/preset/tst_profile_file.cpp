@@ -42,6 +42,9 @@ private Q_SLOTS:
     void missingTemporaryFolderIsNoObstacle();
 #endif
     void largeFileIsRead();
+    void tooLargeFileIsUnreadable();
+    void objectsInAFileAreNotUnpacked_data();
+    void objectsInAFileAreNotUnpacked();
     void loadingWritesNothing();
 
 protected:
@@ -244,6 +247,39 @@ void TestProfileFile::largeFileIsRead()
     QCOMPARE(m_groups.Take(), (QStringList{QStringLiteral("Property"), QStringLiteral("Collision")}));
 }
 
+void TestProfileFile::tooLargeFileIsUnreadable()
+{
+    QFile file(Files::Write(Path("large.ini"), "[Property]\na=1\n"));
+    QVERIFY(file.resize(33 * 1024 * 1024));
+    QCOMPARE(Load(file.fileName()), EProfileProblem::Unreadable);
+    QVERIFY(m_groups.Take().isEmpty());
+}
+
+void TestProfileFile::objectsInAFileAreNotUnpacked_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    // A string list with as many elements as fit into a number, and a polygon with as many points.
+    QTest::newRow("list") << QByteArray("[x]\na=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n");
+    QTest::newRow("polygon") << QByteArray("[x]\na=@Variant(\\0\\0\\0\\x47\\x7f\\xff\\xff\\xff)\n");
+    QTest::newRow("in a group of ours") << QByteArray("[Property]\nMass=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n");
+    QTest::newRow("without a group") << QByteArray("a=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n");
+}
+
+void TestProfileFile::objectsInAFileAreNotUnpacked()
+{
+    QFETCH(const QByteArray, content);
+    QStringList values;
+    const std::vector<MV::ProfileGroup> groups{{QStringLiteral("Property"),
+                                                [&values](QSettings& profile) {
+                                                    values.append(profile.value(QStringLiteral("Mass")).toString());
+                                                    return BF::Result(BF::Results::Success);
+                                                },
+                                                {}}};
+    const QString path = Files::Write(Path("a.ini"), content + "[Property]\nb=1\n");
+    QCOMPARE(MV::LoadProfile(path, groups, m_result), EProfileProblem::None);
+    QCOMPARE(values, QStringList{QString()});
+}
+
 void TestProfileFile::loadingWritesNothing()
 {
     const QByteArray content = "; a comment\n[Property]\nb = 2\na=1\n";
@@ -254,5 +290,5 @@ void TestProfileFile::loadingWritesNothing()
              QStringList{QStringLiteral("a.ini")});
 }
 
-QTEST_MAIN(TestProfileFile)
+SOFTCLOTH_TEST(TestProfileFile)
 #include "tst_profile_file.moc"

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-/// What the documentation tells of the profile's format.
+/// What the documentation says about the profile's format.
 class TestProfileFormat : public TestCase
 {
     Q_OBJECT
@@ -177,5 +177,5 @@ void TestProfileFormat::textsCountAsValues()
     QCOMPARE(value(fixture.Cloth(*fixture.hero)), expected);
 }
 
-QTEST_MAIN(TestProfileFormat)
+SOFTCLOTH_TEST(TestProfileFormat)
 #include "tst_profile_format.moc"

@@ -363,5 +363,5 @@ void TestProfileLoad::profileWithoutSelectionReachesTheHost()
     QCOMPARE(fixture.Take(), (QStringList{write, write}));
 }
 
-QTEST_MAIN(TestProfileLoad)
+SOFTCLOTH_TEST(TestProfileLoad)
 #include "tst_profile_load.moc"

@@ -187,5 +187,5 @@ void TestProfileRoundTrip::unknownGroupsAndKeysSurvive()
     QCOMPARE(trip.Save(*trip.first, "one.ini"), saved);
 }
 
-QTEST_MAIN(TestProfileRoundTrip)
+SOFTCLOTH_TEST(TestProfileRoundTrip)
 #include "tst_profile_round_trip.moc"

@@ -8,8 +8,10 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QRandomGenerator>
 #include <QSettings>
+#include <QSysInfo>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -43,6 +45,10 @@ private Q_SLOTS:
     void linkStaysALink();
 #endif
     void largeFileIsSavedOver();
+    void objectsOfOthersKeepTheirText();
+    void keysThatShareALineAreSavedOver_data();
+    void keysThatShareALineAreSavedOver();
+    void foldersOfKilledSavesAreRemoved();
 
 protected:
     void SetUp() override
@@ -312,5 +318,57 @@ void TestProfileSave::largeFileIsSavedOver()
     QVERIFY(saved.contains("\nkey=Wind_Setting\n"));
 }
 
-QTEST_MAIN(TestProfileSave)
+void TestProfileSave::objectsOfOthersKeepTheirText()
+{
+    const QByteArray list = "a=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n";
+    const QByteArray others = list + "b=@Rect(1 2 3 4)\nc=\"@x\", \\x40y\nd=plain\n";
+    const QString path = Files::Write(Path("a.ini"), "[Other]\n" + others + "[Property]\nkey=@Invalid()\n");
+    QCOMPARE(Save(path), EProfileProblem::None);
+    const QByteArray saved = Files::Read(path);
+    QVERIFY2(saved.contains("[Other]\n" + others), saved.constData());
+    QVERIFY(saved.contains("[Property]\nkey=Property\n"));
+    QVERIFY(!saved.contains("kept"));
+}
+
+void TestProfileSave::keysThatShareALineAreSavedOver_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("with and without a separator") << QByteArray("x=1\n\\x=2\n");
+    QTest::newRow("empty key") << QByteArray("=5\n[Other]\n=6\n");
+}
+
+void TestProfileSave::keysThatShareALineAreSavedOver()
+{
+    QFETCH(const QByteArray, content);
+    const QString path = Files::Write(Path("a.ini"), content + "[Other]\nb=7\n");
+    m_groups.Take();
+    QCOMPARE(Save(path), EProfileProblem::None);
+    QVERIFY(Files::Read(path).contains("b=7\n"));
+    QVERIFY(Files::Read(path).contains("key=Wind_Setting\n"));
+    // Once each, although the first place for the work may not do.
+    QCOMPARE(m_groups.Take().size(), 4);
+}
+
+void TestProfileSave::foldersOfKilledSavesAreRemoved()
+{
+    const QString folder = QDir::tempPath() + QLatin1String("/softcloth-profile-test");
+    QVERIFY(QDir().mkpath(folder));
+    Files::Write(folder + QLatin1String("/profile.ini"), "[Property]\na=1\n");
+    // The lock of a process that no longer exists.
+    Files::Write(folder + QLatin1String(".lock"), "4194303\nsoftcloth\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+    QCOMPARE(Save(Path("a.ini")), EProfileProblem::None);
+    QVERIFY(!QFileInfo::exists(folder));
+    QVERIFY(!QFileInfo::exists(folder + QLatin1String(".lock")));
+    // One that is in use stays.
+    QVERIFY(QDir().mkpath(folder));
+    {
+        QLockFile owner(folder + QLatin1String(".lock"));
+        QVERIFY(owner.tryLock());
+        QCOMPARE(Save(Path("a.ini")), EProfileProblem::None);
+        QVERIFY(QFileInfo::exists(folder));
+        QVERIFY(QDir(folder).removeRecursively());
+    }
+}
+
+SOFTCLOTH_TEST(TestProfileSave)
 #include "tst_profile_save.moc"

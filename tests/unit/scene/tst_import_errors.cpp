@@ -25,6 +25,7 @@ private Q_SLOTS:
     void impossibleFileIsRefused();
     void truncatedModelsAreRefusedOrSound_data();
     void truncatedModelsAreRefusedOrSound();
+    void modelWithTooManyMeshesIsRefused();
     void formatsWithUnreliableReadersAreRefused();
     void suffixesAreSortedAndComplete();
 };
@@ -128,6 +129,31 @@ void TestImportErrors::truncatedModelsAreRefusedOrSound()
     }
 }
 
+void TestImportErrors::modelWithTooManyMeshesIsRefused()
+{
+    constexpr int count = 100001;
+    QByteArray nodes;
+    QByteArray numbers;
+    for (int i = 0; i < count; ++i) {
+        nodes += "{\"mesh\":0},";
+        numbers += QByteArray::number(i) + ',';
+    }
+    nodes.chop(1);
+    numbers.chop(1);
+    const QByteArray corners(36, '\1');
+    const QString path = Files::Write(
+        PathOf(QStringLiteral("many.gltf")),
+        "{\"asset\":{\"version\":\"2.0\"},\"scene\":0,\"scenes\":[{\"nodes\":[" + numbers + "]}],\"nodes\":[" + nodes +
+            "],\"meshes\":[{\"primitives\":[{\"attributes\":{\"POSITION\":0}}]}],\"accessors\":[{\"bufferView\":0,"
+            "\"componentType\":5126,\"count\":3,\"type\":\"VEC3\"}],\"bufferViews\":[{\"buffer\":0,\"byteLength\":36}],"
+            "\"buffers\":[{\"byteLength\":36,\"uri\":\"data:application/octet-stream;base64," +
+            corners.toBase64() + "\"}]}");
+    const ImportResult result = ImportModel(path);
+    QVERIFY(!result.object);
+    QVERIFY2(result.error.contains(QStringLiteral("it has 100001 meshes, and more than 100000 are too many")),
+             qPrintable(result.error));
+}
+
 void TestImportErrors::formatsWithUnreliableReadersAreRefused()
 {
     const QString path = SampleModel(QStringLiteral("MDL/MDL (HL1)/alpha_test.mdl"));
@@ -151,6 +177,6 @@ void TestImportErrors::suffixesAreSortedAndComplete()
     }
 }
 
-QTEST_GUILESS_MAIN(TestImportErrors)
+SOFTCLOTH_TEST_WITH(TestImportErrors, QCoreApplication)
 
 #include "tst_import_errors.moc"

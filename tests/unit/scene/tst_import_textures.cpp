@@ -183,6 +183,6 @@ void TestImportTextures::opacityTextureComesAlong()
     QCOMPARE(textures.at(ETextureChannel::Opacity).filePath, PathOf(QStringLiteral("missing.png")));
 }
 
-QTEST_GUILESS_MAIN(TestImportTextures)
+SOFTCLOTH_TEST_WITH(TestImportTextures, QCoreApplication)
 
 #include "tst_import_textures.moc"

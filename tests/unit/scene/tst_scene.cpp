@@ -203,6 +203,6 @@ void TestScene::sameSelectionIsNoChange()
     QCOMPARE(changes.size(), 2);
 }
 
-QTEST_GUILESS_MAIN(TestScene)
+SOFTCLOTH_TEST_WITH(TestScene, QCoreApplication)
 
 #include "tst_scene.moc"

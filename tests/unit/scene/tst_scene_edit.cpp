@@ -419,6 +419,6 @@ void TestSceneEdit::savedPlaceOnTheStackIsClean()
     QVERIFY(m_scene->UndoStack().isClean());
 }
 
-QTEST_GUILESS_MAIN(TestSceneEdit)
+SOFTCLOTH_TEST_WITH(TestSceneEdit, QCoreApplication)
 
 #include "tst_scene_edit.moc"

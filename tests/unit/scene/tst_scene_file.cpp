@@ -27,6 +27,7 @@ class TestSceneFile : public TestCase
 private Q_SLOTS:
     void emptySceneComesBackEmpty();
     void everythingComesBack();
+    void selectionComesBack();
     void geometryComesBackBitForBit();
     void namesComeBack_data();
     void namesComeBack();
@@ -99,6 +100,16 @@ void TestSceneFile::emptySceneComesBackEmpty()
     const auto loaded = Reload(Scene());
     QVERIFY(loaded->AllObjects().empty());
     QCOMPARE(loaded->UndoStack().count(), 0);
+}
+
+void TestSceneFile::selectionComesBack()
+{
+    Scene scene;
+    scene.AddObject(Sample::Robe(QStringLiteral("Robe")));
+    Object& second = scene.AddObject(Sample::Robe(QStringLiteral("Coat")));
+    scene.SetSelection({second.handle});
+    const auto loaded = Reload(scene);
+    QCOMPARE(loaded->Selection(), QVector<BF::CHandle*>{loaded->AllObjects()[1]->handle});
 }
 
 void TestSceneFile::everythingComesBack()
@@ -347,6 +358,6 @@ void TestSceneFile::saveReplacesTheFile()
     QVERIFY(Host::LoadScene(PathOf("robe.scene"), scene).ok);
 }
 
-QTEST_GUILESS_MAIN(TestSceneFile)
+SOFTCLOTH_TEST_WITH(TestSceneFile, QCoreApplication)
 
 #include "tst_scene_file.moc"

@@ -2,6 +2,7 @@
 #include "host/scene/SceneFile.h"
 
 #include "tests/support/Files.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/scene/JsonEdit.h"
@@ -33,11 +34,17 @@ private Q_SLOTS:
     void impossibleTargetIsRefused_data();
     void impossibleTargetIsRefused();
     void refusedSaveLeavesTheOldFile();
+#ifdef Q_OS_UNIX // Elsewhere no limit makes a disk look full.
+    void fullDiskLeavesTheOldScene();
+#endif
 
 private:
     void SetUp() override;
 
-    QString PathOf(const char* name) const { return m_folder->filePath(QLatin1String(name)); }
+    QString PathOf(const char* name) const
+    {
+        return m_folder->filePath(QLatin1String(name));
+    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -67,7 +74,17 @@ void TestSceneFileErrors::damagedFileIsRefused_data()
                                 << QStringLiteral("version is missing");
     QTest::newRow("version 0") << QByteArray("{\"format\":\"softcloth-scene\",\"version\":0}")
                                << QStringLiteral("version must be");
-    QTest::newRow("too deep") << QByteArray(5000, '[') << QStringLiteral("no scene file at all");
+    const QString tooDeep = QStringLiteral("its values are nested more than 64 levels deep");
+    QTest::newRow("too deep") << QByteArray(5000, '[') << tooDeep;
+    QTest::newRow("65 lists and groups in each other")
+        << QByteArray("[").repeated(64) + "{\"a\":1}" + QByteArray("]").repeated(64) << tooDeep;
+    QTest::newRow("64 lists in each other") << QByteArray("[").repeated(64) + QByteArray("]").repeated(64)
+                                            << QStringLiteral("no scene of this application");
+    QTest::newRow("brackets in a text") << "[\"\\\"" + QByteArray(100, '[') + "\\\\\"]"
+                                        << QStringLiteral("no scene of this application");
+    QTest::newRow("unfinished text") << QByteArray("[\"abc\\") << QStringLiteral("no scene file at all");
+    QTest::newRow("too many values") << "[" + QByteArray("1,").repeated(30000001) + "1]"
+                                     << QStringLiteral("it has more than 30000000 values");
 }
 
 void TestSceneFileErrors::damagedFileIsRefused()
@@ -147,7 +164,11 @@ void TestSceneFileErrors::damagedDocumentIsRefused_data()
         {"objects.0.meshes.0.positions.data", text("AAAAAAAA"), "positions is damaged"},
         {"objects.0.meshes.0.positions.data", text(""), "positions is damaged"},
         {"objects.0.meshes.0.positions.count", 3, "positions does not hold as many"},
-        {"objects.0.meshes.0.positions.count", 1e8, "positions.count must be"},
+        {"objects.0.meshes.0.positions.count", 1.2e9, "positions.count must be"},
+        {"objects.0.meshes.0.positions.count", 16000001, "it has 16000001 vertices, and more than 16000000 are too"},
+        {"objects.1.meshes.0.positions.count", 16000000, "and more than 16000000 are too many"},
+        {"objects.0.meshes.0.slots.0.indices.count", 48000003, "it has 16000001 triangles"},
+        {"objects.0.meshes.0.normals.count", 16000000, "normals must hold one item per vertex"},
         {"objects.0.meshes.0.positions.count", -1, "positions.count must be"},
         // ids
         {"objects.1.id", 1, "objects[1].id is 1, which is in use"},
@@ -299,6 +320,24 @@ void TestSceneFileErrors::refusedSaveLeavesTheOldFile()
     QCOMPARE(Files::Read(PathOf("robe.scene")), QByteArray("old"));
 }
 
-QTEST_GUILESS_MAIN(TestSceneFileErrors)
+#ifdef Q_OS_UNIX
+void TestSceneFileErrors::fullDiskLeavesTheOldScene()
+{
+    const Scene scene; // small enough for the buffer of a file
+    QVERIFY(Host::SaveScene(scene, PathOf("whole.scene")).ok);
+    const int size = Files::Read(PathOf("whole.scene")).size();
+    Files::Write(PathOf("robe.scene"), "old");
+    for (int room = 0; room < size; room += 1 + size / 20) {
+        const FullDisk full{rlim_t(room)};
+        const SceneFileResult saved = Host::SaveScene(scene, PathOf("robe.scene"));
+        QVERIFY2(!saved.ok && !saved.error.endsWith(QStringLiteral(": .")), qPrintable(saved.error));
+        QCOMPARE(Files::Read(PathOf("robe.scene")), QByteArray("old"));
+    }
+    const FullDisk enough{rlim_t(size)};
+    QVERIFY(Host::SaveScene(scene, PathOf("robe.scene")).ok);
+}
+#endif
+
+SOFTCLOTH_TEST_WITH(TestSceneFileErrors, QCoreApplication)
 
 #include "tst_scene_file_errors.moc"

@@ -88,7 +88,7 @@ QStringList LayoutLines(const QLayout& layout)
     return lines;
 }
 
-/// What no property tells of \p object.
+/// What no property says about \p object.
 QStringList ExtraLines(const QObject& object)
 {
     QStringList lines;

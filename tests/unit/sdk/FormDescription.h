@@ -7,7 +7,7 @@
 
 class QWidget;
 
-/// All that can be told of a built form, for comparisons.
+/// All that is known of a built form, for comparisons.
 struct FormDescription
 {
     explicit FormDescription(const QWidget& root);

@@ -298,6 +298,6 @@ void TestAbstractPlugin::interfaceHasItsIdentifier()
     QCOMPARE(qobject_interface_iid<MV::CAbstractPlugin*>(), "Brightfold.Movira.CPluginInterface/7.0");
 }
 
-QTEST_MAIN(TestAbstractPlugin)
+SOFTCLOTH_TEST(TestAbstractPlugin)
 
 #include "tst_abstract_plugin.moc"

@@ -238,6 +238,6 @@ void TestAbstractSection::sectionMayGoFirst()
     QVERIFY(m_box->isVisible());
 }
 
-QTEST_MAIN(TestAbstractSection)
+SOFTCLOTH_TEST(TestAbstractSection)
 
 #include "tst_abstract_section.moc"

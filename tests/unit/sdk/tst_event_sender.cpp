@@ -126,6 +126,6 @@ void TestEventSender::argumentsArriveUnchanged()
     QCOMPARE(received, 2);
 }
 
-QTEST_MAIN(TestEventSender)
+SOFTCLOTH_TEST(TestEventSender)
 
 #include "tst_event_sender.moc"

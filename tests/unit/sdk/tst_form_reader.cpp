@@ -26,6 +26,10 @@ private Q_SLOTS:
     void formsAreAsFromUiTools();
     void unknownThingsAreReported_data();
     void unknownThingsAreReported();
+    void formBeyondTheLimitsIsRefused_data();
+    void formBeyondTheLimitsIsRefused();
+    void formAtTheLimitsIsBuilt_data();
+    void formAtTheLimitsIsBuilt();
 
 private:
     using Reader = QWidget* (*)(QIODevice&, const QDir&, QWidget*, QString&);
@@ -112,6 +116,96 @@ void TestFormReader::unknownThingsAreReported()
     QVERIFY(root->children().isEmpty());
 }
 
-QTEST_MAIN(TestFormReader)
+namespace {
+
+/// A form of that many elements in each other, its own one included.
+QByteArray DeepForm(int levels)
+{
+    const QByteArray widget = "<widget class=\"QWidget\" name=\"w\">";
+    return "<ui version=\"4.0\">" + widget.repeated(levels - 1) + QByteArray("</widget>").repeated(levels - 1) +
+           "</ui>";
+}
+
+QByteArray GridForm(const QByteArray& cell)
+{
+    return "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\"><layout class=\"QGridLayout\" name=\"l\"><item " +
+           cell + "><widget class=\"QWidget\" name=\"c\"/></item></layout></widget></ui>";
+}
+
+QByteArray TableForm(const QByteArray& property, const QByteArray& number)
+{
+    return "<ui version=\"4.0\"><widget class=\"QTableWidget\" name=\"t\"><property name=\"" + property +
+           "\"><number>" + number + "</number></property></widget></ui>";
+}
+
+} // namespace
+
+void TestFormReader::formBeyondTheLimitsIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("form");
+    QTest::addColumn<QString>("complaint");
+    const auto row = [](const char* name, const QByteArray& form, const char* complaint) {
+        QTest::newRow(name) << form << QString::fromLatin1(complaint);
+    };
+    const char* const cells = "line 1: rows and columns are numbers up to 1000";
+    row("one level too many", DeepForm(101), "line 1: there are more than 100 elements in each other");
+    row("60,000 levels", DeepForm(60000), "line 1: there are more than 100 elements in each other");
+    row("60,000 levels without an end", DeepForm(60000).left(1000000),
+        "line 1: there are more than 100 elements in each other");
+    row("far row", GridForm("row=\"2000000000\" column=\"0\""), cells);
+    row("far column", GridForm("row=\"0\" column=\"2000000000\""), cells);
+    row("row beyond all numbers", GridForm("row=\"3000000000\" column=\"0\""), cells);
+    row("negative row", GridForm("row=\"-1\" column=\"0\""), cells);
+    row("many rows at once", GridForm("row=\"0\" column=\"0\" rowspan=\"2000000000\""), cells);
+    row("many columns at once", GridForm("row=\"0\" column=\"0\" colspan=\"1001\""), cells);
+    row("no row at all", GridForm("row=\"0\" column=\"0\" rowspan=\"0\""), cells);
+    row("rows of a table", TableForm("rowCount", "2000000000"), cells);
+    row("columns of a table", TableForm("columnCount", " 2000000000 "), cells);
+    row("too many elements",
+        "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\">" + QByteArray("<action/>").repeated(100000) +
+            "</widget></ui>",
+        "line 1: there are more than 100000 elements");
+    row("too many bytes", DeepForm(2) + QByteArray(16 << 20, ' '), "a form has 16777216 bytes at most");
+    row("entities", "<!DOCTYPE ui [<!ENTITY a \"aaaa\">]>\n" + DeepForm(2), "line 1: a form declares no entities");
+}
+
+void TestFormReader::formBeyondTheLimitsIsRefused()
+{
+    QFETCH(QByteArray, form);
+    QFETCH(QString, complaint);
+    for (const Reader reader : {&MV::Internal::ReadForm, &MV::Internal::ReadFormWithUiTools}) {
+        QBuffer buffer(&form);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        QWidget parent;
+        QString error;
+        QVERIFY(!reader(buffer, QDir(), &parent, error));
+        QCOMPARE(error, complaint);
+        QVERIFY(parent.children().isEmpty());
+    }
+}
+
+void TestFormReader::formAtTheLimitsIsBuilt_data()
+{
+    QTest::addColumn<QByteArray>("form");
+    QTest::newRow("levels") << DeepForm(100);
+    QTest::newRow("cells") << GridForm("row=\"500\" column=\"1000\" rowspan=\"1\" colspan=\"1\"");
+    QTest::newRow("rows of a table") << TableForm("rowCount", "1000");
+    QTest::newRow("another number of a table") << TableForm("minimumWidth", "5000");
+    QTest::newRow("old document type") << "<!DOCTYPE UI>" + DeepForm(2);
+}
+
+void TestFormReader::formAtTheLimitsIsBuilt()
+{
+    QFETCH(QByteArray, form);
+    for (const Reader reader : {&MV::Internal::ReadForm, &MV::Internal::ReadFormWithUiTools}) {
+        QBuffer buffer(&form);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        QWidget parent;
+        QString error;
+        QVERIFY2(reader(buffer, QDir(), &parent, error), qPrintable(error));
+    }
+}
+
+SOFTCLOTH_TEST(TestFormReader)
 
 #include "tst_form_reader.moc"

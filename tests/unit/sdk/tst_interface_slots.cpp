@@ -311,6 +311,6 @@ void TestInterfaceSlots::interfaceHasNoFurtherSlots()
     QCOMPARE(count, expected);
 }
 
-QTEST_APPLESS_MAIN(TestInterfaceSlots)
+SOFTCLOTH_TEST_WITH(TestInterfaceSlots, NoApplication)
 
 #include "tst_interface_slots.moc"

@@ -249,6 +249,6 @@ void TestLayoutIni::isAppliedBeforeTheComponentIsSetUp()
     QCOMPARE(component.maximum, 250);
 }
 
-QTEST_MAIN(TestLayoutIni)
+SOFTCLOTH_TEST(TestLayoutIni)
 
 #include "tst_layout_ini.moc"

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Records its hooks, and where it stood at that moment: showing a dialog moves it over its parent.
+/// Records its hooks, and where it was at that moment: showing a dialog moves it over its parent.
 class Dialog : public MV::CPluginDialog
 {
 public:
@@ -239,6 +239,6 @@ void TestPluginDialog::dialogHasNoHelpButton()
     QVERIFY(m_dialog->isWindow());
 }
 
-QTEST_MAIN(TestPluginDialog)
+SOFTCLOTH_TEST(TestPluginDialog)
 
 #include "tst_plugin_dialog.moc"

@@ -257,6 +257,6 @@ void TestSoftClothRecords::resultHasItsCode()
     QVERIFY(result != BF::Result(code + 1));
 }
 
-QTEST_APPLESS_MAIN(TestSoftClothRecords)
+SOFTCLOTH_TEST_WITH(TestSoftClothRecords, NoApplication)
 
 #include "tst_soft_cloth_records.moc"

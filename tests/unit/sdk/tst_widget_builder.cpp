@@ -371,6 +371,6 @@ void TestWidgetBuilder::relativePixmapComesFromBesideTheForm()
     QCOMPARE(Child<QLabel>(&target, "qtLabel")->pixmap(Qt::ReturnByValue).size(), QSize(30, 20));
 }
 
-QTEST_MAIN(TestWidgetBuilder)
+SOFTCLOTH_TEST(TestWidgetBuilder)
 
 #include "tst_widget_builder.moc"

@@ -31,8 +31,8 @@ void Classes(const QWidget& section);
 void AddRangeColumns();
 void Range(const QWidget& section);
 
-/// There are \p count boxes, and each tells what it does: in a tool tip of two sentences, in an accessible name, and
-/// in a label that has it as buddy. No box tells of its value while the user types.
+/// There are \p count boxes, and each says what it does: in a tool tip of two sentences, in an accessible name, and
+/// in a label that has it as buddy. No box reports its value while the user types.
 void Help(const QWidget& section, int count);
 
 /// The layout file has been applied: it alone puts the numbers of the plain boxes to the right, and gives \p layout its
@@ -47,7 +47,7 @@ void TabOrder(QWidget& section, const char* names);
 
 /// Rows of a state with nothing to show.
 void AddNothingShownRows();
-/// In such a state \p refresh answers 1, disables the group box, leaves \p box alone and asks no more than it must.
+/// In such a state \p refresh returns 1, disables the group box, leaves \p box alone and asks no more than it must.
 void NothingShown(SectionFixture& fixture, const QWidget& section, const std::function<BF::Result()>& refresh,
                   const char* box);
 
@@ -56,7 +56,7 @@ void NothingShown(SectionFixture& fixture, const QWidget& section, const std::fu
 void FailedRead(SectionFixture& fixture, const QWidget& section, const std::function<BF::Result()>& refresh,
                 const std::function<void()>& change);
 
-/// A section that is ready stands on the panel's page at \p order, hidden and unfolded; its button folds it.
+/// A section that is ready is on the panel's page at \p order, hidden and unfolded; its button folds it.
 template <class Section>
 void Place(int order)
 {
@@ -87,7 +87,7 @@ void WithoutHost()
     QCOMPARE(fixture.TakeCalls(), QStringList());
 }
 
-/// Without its form, of which a warning tells, a section does not start and is not to be shown.
+/// Without its form, which a warning reports, a section does not start and is not to be shown.
 template <class Section>
 void MissingForm()
 {

@@ -15,12 +15,6 @@
 
 namespace {
 
-QAbstractSpinBox* SpinBoxOf(QWidget* box)
-{
-    auto* spinBox = qobject_cast<QAbstractSpinBox*>(box);
-    return spinBox ? spinBox : box->findChild<QAbstractSpinBox*>();
-}
-
 template <class Box, class... Signals>
 void CountSignals(const QWidget& section, const QObject& context, int& count, Signals... boxSignals)
 {
@@ -95,13 +89,7 @@ QStringList SectionFixture::TakeCalls()
 
 QString SectionFixture::Call(const char* operation, const QStringList& arguments, const char* result) const
 {
-    const MV::SoftClothSelection& selection = plugin.Selection();
-    const Host::JournalText text(host.CurrentScene());
-    QStringList all{text(selection.object), text(Host::ToHandle(selection.mesh)),
-                    text(Host::ToHandle(selection.material))};
-    all += arguments;
-    return QStringLiteral("%1(%2) -> %3")
-        .arg(QLatin1String(operation), all.join(QLatin1String(", ")), QLatin1String(result));
+    return CallText(host, plugin.Selection(), operation, arguments, result);
 }
 
 std::unique_ptr<QSettings> SectionFixture::Profile(const char* group, const QStringList& lines)
@@ -136,20 +124,6 @@ QStringList SavedAs(const char* group, QStringList lines)
 #endif
     lines.prepend(QLatin1Char('[') + QLatin1String(group) + QLatin1Char(']'));
     return lines;
-}
-
-void TypeInto(QWidget* box, const QString& text)
-{
-    QAbstractSpinBox* spinBox = SpinBoxOf(box);
-    spinBox->setFocus(Qt::TabFocusReason);
-    spinBox->selectAll();
-    QTest::keyClicks(spinBox, text);
-}
-
-void Enter(QWidget* box, const QString& text)
-{
-    TypeInto(box, text);
-    QTest::keyClick(SpinBoxOf(box), Qt::Key_Return);
 }
 
 QVariant Shown(const QWidget* box)

@@ -2,6 +2,8 @@
 
 #include "host/services/HostApplication.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
+#include "tests/support/HostCalls.h"
+#include "tests/support/Typing.h"
 
 #include <QByteArray>
 #include <QSettings>
@@ -45,9 +47,9 @@ public:
 
     /// The host calls since the last time, and everything else that the journal recorded.
     QStringList TakeCalls();
-    /// A call as TakeCalls() tells it: \p arguments follow those that name the selected material.
+    /// A call as TakeCalls() returns it: \p arguments follow those that name the selected material.
     QString Call(const char* operation, const QStringList& arguments, const char* result = "0") const;
-    /// How a record stands in the journal.
+    /// How the journal shows a record.
     template <class Record>
     QString Text(const Record& record) const
     {
@@ -89,15 +91,10 @@ private:
 /// they were written.
 QStringList SavedAs(const char* group, QStringList lines);
 
-/// Types \p text into a box in place of what it shows, without a Return.
-void TypeInto(QWidget* box, const QString& text);
-/// The same, and commits it with Return.
-void Enter(QWidget* box, const QString& text);
-
 /// What a box shows, whatever its class; an int or a double. Invalid for another widget.
 QVariant Shown(const QWidget* box);
 
-/// Counts every change and every commit that the boxes inside a section tell of, while it lives.
+/// Counts every change and every commit that the boxes inside a section report, while it exists.
 class BoxSignals
 {
 public:

@@ -24,7 +24,7 @@ struct SliderSetup
     QColor lineColor{10, 200, 30};
 };
 
-/// An opaque image of \p color with a white corner, which shows where it stands. Sizes are in logical pixels.
+/// An opaque image of \p color with a white corner, which shows where it is. Sizes are in logical pixels.
 QPixmap MakePixmap(const QColor& color, const QSize& size = {8, 8}, int ratio = 1);
 MV::CMultiLevelSlider::Image MakeImage(const QColor& color, const QSize& size = {8, 8}, int ratio = 1);
 /// Levels with these values.
@@ -40,7 +40,7 @@ public:
     void Move(int x, int y = 12);
     void Release(int x, int y = 12, Qt::MouseButton button = Qt::LeftButton);
 
-    /// What the slider has told its owner since the last time: "changing 1", "changed 1", "selected 0".
+    /// What the slider has reported to its owner since the last time: "changing 1", "changed 1", "selected 0".
     QStringList Take();
     std::vector<int> Values(std::size_t count = 2) const;
     /// What the slider draws, on a transparent ground.

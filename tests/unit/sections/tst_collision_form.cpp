@@ -120,5 +120,5 @@ void TestCollisionForm::missingFormIsReturned()
     FormChecks::MissingForm<Section>();
 }
 
-QTEST_MAIN(TestCollisionForm)
+SOFTCLOTH_TEST(TestCollisionForm)
 #include "tst_collision_form.moc"

@@ -393,5 +393,5 @@ void TestCollisionSection::loadingAProfileLeavesTheEnabledMarginsToTheNextRefres
     QVERIFY(IsEnabled(section, selfMargin));
 }
 
-QTEST_MAIN(TestCollisionSection)
+SOFTCLOTH_TEST(TestCollisionSection)
 #include "tst_collision_section.moc"

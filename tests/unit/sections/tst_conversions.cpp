@@ -215,5 +215,5 @@ void TestConversions::everyBoxValueComesBack()
     }
 }
 
-QTEST_MAIN(TestConversions)
+SOFTCLOTH_TEST(TestConversions)
 #include "tst_conversions.moc"

@@ -84,7 +84,7 @@ void TestMissingResources::hoverImageOfAnotherSizeEndsTheWindSection()
         Register(QString::fromLatin1(name));
     }
     auto& section = m_fixture->Make<MV::CSoftClothWindSection>();
-    // What the slider's set-up answers, as it stands.
+    // What the slider's set-up returns, unchanged.
     QCOMPARE(m_fixture->initialised, BF::Results::InvalidArgument);
     QCOMPARE(section.findChild<MV::CMultiLevelSlider*>()->LevelValue(1), 0);
 }
@@ -122,5 +122,5 @@ void TestMissingResources::emptyWindFormIsLivedWith()
     QVERIFY(m_fixture->Saved(section, "Wind_Setting").contains(QStringLiteral("Wind_Frequency=0")));
 }
 
-QTEST_MAIN(TestMissingResources)
+SOFTCLOTH_TEST(TestMissingResources)
 #include "tst_missing_resources.moc"

@@ -10,7 +10,7 @@ using MV::CMultiLevelSlider;
 Q_DECLARE_METATYPE(SliderSetup)
 Q_DECLARE_METATYPE(std::vector<int>)
 
-/// The slider's set-up, its values and where they stand.
+/// The slider's set-up, its values and where they are.
 class TestMultiLevelSlider : public TestCase
 {
     Q_OBJECT
@@ -284,5 +284,5 @@ void TestMultiLevelSlider::ownerSetsTheSelectedIndex()
     QCOMPARE(window.Take(), QStringList());
 }
 
-QTEST_MAIN(TestMultiLevelSlider)
+SOFTCLOTH_TEST(TestMultiLevelSlider)
 #include "tst_multi_level_slider.moc"

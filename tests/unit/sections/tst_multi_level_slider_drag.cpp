@@ -6,7 +6,7 @@
 Q_DECLARE_METATYPE(std::vector<int>)
 Q_DECLARE_METATYPE(std::vector<MV::SliderLevel>)
 
-/// How the slider's handles are dragged. They are 8 pixels wide on a slider of 100: value 0 stands at 0, 5 at 46, 10 at
+/// How the slider's handles are dragged. They are 8 pixels wide on a slider of 100: value 0 is at 0, 5 at 46, 10 at
 /// 91.
 class TestMultiLevelSliderDrag : public TestCase
 {
@@ -354,7 +354,7 @@ void TestMultiLevelSliderDrag::selectionIsToldBeforeTheDragBegins()
 {
     SliderWindow window;
     window.slider.selectionChanged = [&window](std::size_t index) { window.slider.SetLevelValue(index, 5); };
-    // The grip is taken where the handle stands then: 49 pixels left of the cursor.
+    // The grip is taken where the handle is then: 49 pixels left of the cursor.
     window.Press(95);
     window.Move(86);
     QCOMPARE(window.slider.LevelValue(1), 4);
@@ -400,5 +400,5 @@ void TestMultiLevelSliderDrag::hidingEndsADrag()
     QCOMPARE(window.Take(), QStringList());
 }
 
-QTEST_MAIN(TestMultiLevelSliderDrag)
+SOFTCLOTH_TEST(TestMultiLevelSliderDrag)
 #include "tst_multi_level_slider_drag.moc"

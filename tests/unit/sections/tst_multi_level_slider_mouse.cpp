@@ -7,7 +7,7 @@ using MV::CMultiLevelSlider;
 
 Q_DECLARE_METATYPE(std::vector<int>)
 
-/// The slider's mouse rules but for dragging. Handles are 8 pixels wide on a slider of 100: value 0 stands at 0, 5 at
+/// The slider's mouse rules but for dragging. Handles are 8 pixels wide on a slider of 100: value 0 is at 0, 5 at
 /// 46, 10 at 91.
 class TestMultiLevelSliderMouse : public TestCase
 {
@@ -184,7 +184,7 @@ void TestMultiLevelSliderMouse::hoverTakesTheLastHandleUnderTheCursor()
     const bool overlap = values[0] == values[1];
     QCOMPARE(Hovered(window), overlap ? 0 : hovered);
     if (overlap) {
-        // Both stand at one place; drawn apart, the second is the hovered one.
+        // Both are at one place; drawn apart, the second is the hovered one.
         window.slider.SetLevelValue(0, 0);
         QCOMPARE(Hovered(window), hovered);
     }
@@ -317,5 +317,5 @@ void TestMultiLevelSliderMouse::emptyCallbacksArePassedOver()
     QCOMPARE(window.Values(), std::vector<int>({0, 5}));
 }
 
-QTEST_MAIN(TestMultiLevelSliderMouse)
+SOFTCLOTH_TEST(TestMultiLevelSliderMouse)
 #include "tst_multi_level_slider_mouse.moc"

@@ -384,5 +384,5 @@ void TestMultiLevelSliderPainting::everyChangeIsPainted()
     QTRY_VERIFY(paints.Count() >= 1);
 }
 
-QTEST_MAIN(TestMultiLevelSliderPainting)
+SOFTCLOTH_TEST(TestMultiLevelSliderPainting)
 #include "tst_multi_level_slider_painting.moc"

@@ -162,5 +162,5 @@ void TestPropertyForm::missingFormIsReturned()
     FormChecks::MissingForm<Section>();
 }
 
-QTEST_MAIN(TestPropertyForm)
+SOFTCLOTH_TEST(TestPropertyForm)
 #include "tst_property_form.moc"

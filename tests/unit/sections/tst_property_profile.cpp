@@ -57,11 +57,11 @@ const QStringList fullProfile{
     QStringLiteral("Wake_Counter_Value=0.6"),
 };
 
-/// The record that it stands for: the host's scale, in the order of the record's fields.
+/// The record that it means: the host's scale, in the order of the record's fields.
 const Record fullRecord{16,   120,  0.5F, 1.25F, 0.1F,  0.2F,  0.3F, 0.25F, 12.5F,
                         0.0F, 0.7F, 1.5F, 0.9F,  19.5F, 0.06F, 0.6F, {}};
 
-/// What a profile without any key stands for.
+/// What a profile without any key means.
 const Record emptyRecord{0, 0, 1.01F, 0.0F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F, 1.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F, {}};
 
 struct Key
@@ -149,6 +149,13 @@ void TestPropertyProfile::loadReadsEachKey_data()
     row("negative mass is no number", "Mass=-5", &Record::mass, 0, "qtMassEXSpinBox", 0);
     row("decimal mass is no number", "Mass=1.5", &Record::mass, 0, "qtMassEXSpinBox", 0);
     row("largest unsigned mass", "Mass=4294967295", &Record::mass, 4294967295, "qtMassEXSpinBox", 0);
+    row("mass beyond 32 bits is no number", "Mass=4294967296", &Record::mass, 0, "qtMassEXSpinBox", 0);
+    row("not a number", "Friction=nan", &Record::friction, 0.0F, "qtFricionDoubleEXSpinBox", 0);
+    row("infinity", "Drag=-inf", &Record::drag, 0.0F, "qtDragDoubleEXSpinBox", 0);
+    row("too large for single precision", "Tether_Limit=1e39", &Record::tetherLimit, 0.0F,
+        "qtTetherLimitDoubleEXSpinBox", 0);
+    row("infinite scale", "Angular_Inertia_Scale=inf", &Record::angularInertiaScale, 0.0F, "", 0);
+    row("infinity without a box", "Wake_Counter_Value=inf", &Record::wakeCounterValue, 0.0F, "", 0);
     row("word", "Friction=much", &Record::friction, 0.0F, "qtFricionDoubleEXSpinBox", 0);
     row("single precision", "Friction=0.123456789", &Record::friction, 0.123456789F, "qtFricionDoubleEXSpinBox", 0.123);
     row("tenths of an angular scale", "Angular_Inertia_Scale=12.5", &Record::angularInertiaScale, 1.25F, "", 0);
@@ -405,5 +412,5 @@ void TestPropertyProfile::statedLossesAreLost()
     COMPARE_RECORDS(fixture, fixture.Cloth().property, loaded);
 }
 
-QTEST_MAIN(TestPropertyProfile)
+SOFTCLOTH_TEST(TestPropertyProfile)
 #include "tst_property_profile.moc"

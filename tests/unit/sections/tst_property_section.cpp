@@ -368,5 +368,5 @@ void TestPropertySection::enableUiReachesTheGroupBox()
     QVERIFY(Child<QPushButton>(&section, "qtExpandPushButton")->isEnabled());
 }
 
-QTEST_MAIN(TestPropertySection)
+SOFTCLOTH_TEST(TestPropertySection)
 #include "tst_property_section.moc"

@@ -196,5 +196,5 @@ void TestSectionUndo::sceneFileKeepsBothRecords()
     COMPARE_RECORDS(fixture, scene->FindSlot(address)->cloth.wind, windDifferent);
 }
 
-QTEST_MAIN(TestSectionUndo)
+SOFTCLOTH_TEST(TestSectionUndo)
 #include "tst_section_undo.moc"

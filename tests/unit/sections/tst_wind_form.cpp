@@ -290,5 +290,5 @@ void TestWindForm::lineIsLightGray()
     QVERIFY(colors.contains(QColor(200, 200, 200)));
 }
 
-QTEST_MAIN(TestWindForm)
+SOFTCLOTH_TEST(TestWindForm)
 #include "tst_wind_form.moc"

@@ -72,6 +72,9 @@ void TestWindProfile::loadReadsEachKey_data()
     row("short list", "External_Acceleration=10, -20", {{10, -20, 0}, {}, 0, {0, 0}}, {10, -20, 0, 0, 0, 0, 0, 0, 0});
     row("one element", "Wind_Random_Factor=4", {{}, {}, 0, {4, 0}}, {0, 0, 0, 0, 0, 0, 0, 4, 0});
     row("long list", "External_Acceleration=1, 2, 3, 4", {{1, 2, 3}, {}, 0, {0, 0}}, {1, 2, 3, 0, 0, 0, 0, 0, 0});
+    row("infinite elements", "External_Acceleration=inf, nan, 3", {{0, 0, 3}, {}, 0, {0, 0}},
+        {0, 0, 3, 0, 0, 0, 0, 0, 0});
+    row("infinite frequency", "Wind_Frequency=inf", emptyRecord, {0, 0, 0, 0, 0, 0, 0, 0, 0});
     row("words", "External_Acceleration=a, b, c", emptyRecord, {0, 0, 0, 0, 0, 0, 0, 0, 0});
     // A decimal is a float for the host, but no whole number for a box.
     row("decimals", "External_Acceleration=1.5, -2.7, 3", {{1.5F, -2.7F, 3}, {}, 0, {0, 0}},
@@ -170,5 +173,5 @@ void TestWindProfile::decimalsOfWholeNumbersAreLost()
     COMPARE_RECORDS(fixture, fixture.Cloth().wind, expected);
 }
 
-QTEST_MAIN(TestWindProfile)
+SOFTCLOTH_TEST(TestWindProfile)
 #include "tst_wind_profile.moc"

@@ -357,5 +357,5 @@ void TestWindSection::sectionOutlivesItsSlider()
     QVERIFY(fixture.Saved(section, "Wind_Setting").contains(QStringLiteral("Wind_Random_Factor=0, 0")));
 }
 
-QTEST_MAIN(TestWindSection)
+SOFTCLOTH_TEST(TestWindSection)
 #include "tst_wind_section.moc"

@@ -43,5 +43,5 @@ protected:
     std::unique_ptr<Host::HostApplication> m_host;
     Host::Object* m_hero = nullptr;
     Host::ClothAddress m_address; ///< "Skin" on "Body".
-    QStringList m_problems;       ///< What the host told the user.
+    QStringList m_problems;       ///< What the host reported to the user.
 };

@@ -8,7 +8,7 @@
 
 using MV::ETextureChannel;
 
-/// Textures that are decoded in the background, and what callers are told meanwhile.
+/// Textures that are decoded in the background, and what callers get meanwhile.
 class TestBackgroundLoading : public ImageTestCase
 {
     Q_OBJECT
@@ -131,6 +131,6 @@ void TestBackgroundLoading::hostMayGoWhileLoading()
     QVERIFY(m_problems.isEmpty());
 }
 
-QTEST_MAIN(TestBackgroundLoading)
+SOFTCLOTH_TEST(TestBackgroundLoading)
 
 #include "tst_background_loading.moc"

@@ -1,4 +1,5 @@
 #include "host/services/HostApplication.h"
+#include "tests/support/HostCalls.h"
 #include "tests/support/SampleModels.h"
 #include "tests/support/TestCase.h"
 
@@ -21,24 +22,12 @@ private Q_SLOTS:
     void pickModeTellsNewAndOld();
     void undoShowsTheValuesAgain();
     void undoOfADeletionBringsTheObjectBack();
+    void undoOfADeletionSelectsTheObjectAgain();
+    void severalObjectsAreDeletedAsOneStep();
+    void redoOfAnImportSelectsTheObject();
+    void selectingAgainSendsTheEventOnceMore();
+    void modelThatIsTooMuchForTheSceneIsRefused();
 };
-
-namespace {
-
-/// The events in the journal, and empties it.
-QStringList TakeEvents(Host::HostApplication& host)
-{
-    QStringList events;
-    for (const Host::JournalEntry& entry : host.Journal().Entries()) {
-        if (entry.kind == Host::JournalEntry::Kind::Event) {
-            events.append(entry.operation);
-        }
-    }
-    host.Journal().Clear();
-    return events;
-}
-
-} // namespace
 
 void TestHostEventsSent::changeSendsItsEventsOnce_data()
 {
@@ -78,7 +67,7 @@ void TestHostEventsSent::changeSendsItsEventsOnce_data()
         },
         "ObjectDataChanged");
     row(
-        "delete", [](Application& host, H object) { host.DeleteObject(object); }, "ObjectDeleted");
+        "delete", [](Application& host, H object) { host.DeleteObjects({object}); }, "ObjectDeleted");
 }
 
 void TestHostEventsSent::changeSendsItsEventsOnce()
@@ -88,10 +77,10 @@ void TestHostEventsSent::changeSendsItsEventsOnce()
     Host::HostApplication host;
     BF::CHandle* hero = host.CurrentScene().AddObject(SampleModels::Hero()).handle;
     change(host, hero);
-    QCOMPARE(TakeEvents(host).join(QLatin1Char(' ')), events);
+    QCOMPARE(TakeEvents(host.Journal()).join(QLatin1Char(' ')), events);
     // The same value once more is no change.
     change(host, hero);
-    QCOMPARE(TakeEvents(host), QStringList());
+    QCOMPARE(TakeEvents(host.Journal()), QStringList());
 }
 
 void TestHostEventsSent::stateIsStoredBeforeItsEvent()
@@ -131,29 +120,101 @@ void TestHostEventsSent::undoShowsTheValuesAgain()
     Host::HostApplication host;
     BF::CHandle* hero = host.CurrentScene().AddObject(SampleModels::Hero()).handle;
     host.SetSoftClothActive(hero, true);
-    TakeEvents(host);
+    TakeEvents(host.Journal());
     const QStringList expected{QStringLiteral("UndoRedoDone"), QStringLiteral("LaunchedImageChanged")};
     host.Undo();
-    QCOMPARE(TakeEvents(host), expected);
+    QCOMPARE(TakeEvents(host.Journal()), expected);
     host.Redo();
-    QCOMPARE(TakeEvents(host), expected);
+    QCOMPARE(TakeEvents(host.Journal()), expected);
     host.Redo();
-    QCOMPARE(TakeEvents(host), QStringList());
+    QCOMPARE(TakeEvents(host.Journal()), QStringList());
 }
 
 void TestHostEventsSent::undoOfADeletionBringsTheObjectBack()
 {
     Host::HostApplication host;
     BF::CHandle* hero = host.AddModel(SampleModels::Hero());
-    host.DeleteObject(hero);
+    host.DeleteObjects({hero});
     QVERIFY(!host.CurrentScene().FindObject(hero));
     QVERIFY(host.CurrentScene().Selection().isEmpty());
     host.Undo();
     QVERIFY(host.CurrentScene().FindObject(hero));
     host.Undo();
     QVERIFY(!host.CurrentScene().FindObject(hero));
-    QVERIFY(TakeEvents(host).contains(QStringLiteral("ObjectDeleted")));
+    QVERIFY(TakeEvents(host.Journal()).contains(QStringLiteral("ObjectDeleted")));
 }
 
-QTEST_MAIN(TestHostEventsSent)
+void TestHostEventsSent::undoOfADeletionSelectsTheObjectAgain()
+{
+    Host::HostApplication host;
+    BF::CHandle* hero = host.AddModel(SampleModels::Hero());
+    BF::CHandle* flag = host.AddModel(SampleModels::Flag());
+    host.Select({hero});
+    host.DeleteObjects({hero});
+    host.Select({flag});
+    TakeEvents(host.Journal());
+    QVector<BF::CHandle*> seen;
+    connect(host.GetEventSender(), &MV::CEventSender::ObjectSelectionChanged, this,
+            [&] { seen = host.CurrentScene().Selection(); });
+    host.Undo();
+    QCOMPARE(host.CurrentScene().Selection(), QVector<BF::CHandle*>{hero});
+    QCOMPARE(seen, QVector<BF::CHandle*>{hero});
+    QCOMPARE(TakeEvents(host.Journal()).count(QStringLiteral("ObjectSelectionChanged")), 1);
+}
+
+void TestHostEventsSent::severalObjectsAreDeletedAsOneStep()
+{
+    Host::HostApplication host;
+    BF::CHandle* hero = host.AddModel(SampleModels::Hero());
+    BF::CHandle* flag = host.AddModel(SampleModels::Flag());
+    host.Select({hero, flag});
+    const int steps = host.CurrentScene().UndoStack().index();
+    host.DeleteObjects(host.CurrentScene().Selection());
+    QVERIFY(host.CurrentScene().Objects().empty());
+    QCOMPARE(host.CurrentScene().UndoStack().index(), steps + 1);
+    host.Undo();
+    QCOMPARE(host.CurrentScene().Selection(), (QVector<BF::CHandle*>{hero, flag}));
+}
+
+void TestHostEventsSent::redoOfAnImportSelectsTheObject()
+{
+    Host::HostApplication host;
+    BF::CHandle* hero = host.AddModel(SampleModels::Hero());
+    host.Undo();
+    host.Redo();
+    QCOMPARE(host.CurrentScene().Selection(), QVector<BF::CHandle*>{hero});
+}
+
+void TestHostEventsSent::selectingAgainSendsTheEventOnceMore()
+{
+    Host::HostApplication host;
+    BF::CHandle* hero = host.AddModel(SampleModels::Hero());
+    TakeEvents(host.Journal());
+    host.Select({hero});
+    QCOMPARE(TakeEvents(host.Journal()), QStringList());
+    host.SelectAgain();
+    QCOMPARE(TakeEvents(host.Journal()), QStringList{QStringLiteral("ObjectSelectionChanged")});
+}
+
+void TestHostEventsSent::modelThatIsTooMuchForTheSceneIsRefused()
+{
+    Host::HostApplication host;
+    QSignalSpy problems(&host, &Host::HostApplication::ProblemTold);
+    Host::Object many;
+    many.name = QStringLiteral("Many");
+    many.meshes.resize(60000);
+    BF::CHandle* const first = host.AddModel(many);
+    QVERIFY(first);
+    TakeEvents(host.Journal());
+    QVERIFY(!host.AddModel(many));
+    QCOMPARE(problems.size(), 1);
+    const QString told = problems.at(0).at(0).toString();
+    QVERIFY2(told.contains(QStringLiteral("it has 120000 meshes, and more than 100000 are too many")),
+             qPrintable(told));
+    QCOMPARE(TakeEvents(host.Journal()), QStringList());
+    QCOMPARE(host.CurrentScene().AllObjects().size(), std::size_t{1});
+    QCOMPARE(host.CurrentScene().Selection(), QVector<BF::CHandle*>{first});
+}
+
+SOFTCLOTH_TEST(TestHostEventsSent)
 #include "tst_host_events_sent.moc"

@@ -12,7 +12,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <functional>
@@ -212,8 +215,12 @@ void TestHostServices::folders()
     QVERIFY(QString::fromStdWString(path).endsWith(QStringLiteral("folder") + QDir::separator()));
     QCOMPARE(SceneOf().GetDataFolderPath(path, 4), BF::Results::InvalidArgument);
     QString folder;
+    QTemporaryDir home; // in which there is no folder for documents
+    const QByteArray formerHome = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(home.path()));
     QCOMPARE(SceneOf().GetDefaultFolder(folder, 72), BF::Results::Success);
-    QVERIFY(!folder.isEmpty());
+    qputenv("HOME", formerHome);
+    QVERIFY2(QFileInfo(folder).isDir(), qPrintable(folder));
     QCOMPARE(SceneOf().GetDefaultFolder(folder, 1), BF::Results::InvalidArgument);
 }
 
@@ -418,5 +425,5 @@ void TestHostServices::escapeActionIsRegisteredAndSwitched()
     QCOMPARE(hotKeys.EnableHotKeyAction(nullptr), BF::Results::InvalidArgument);
 }
 
-QTEST_MAIN(TestHostServices)
+SOFTCLOTH_TEST(TestHostServices)
 #include "tst_host_services.moc"

@@ -147,6 +147,6 @@ void TestIgnoredMaterials::unknownObjectIsInvalid()
     QCOMPARE(Edits().SetIgnoredMaterialNames(nullptr, {}), BF::Results::InvalidArgument);
 }
 
-QTEST_MAIN(TestIgnoredMaterials)
+SOFTCLOTH_TEST(TestIgnoredMaterials)
 
 #include "tst_ignored_materials.moc"

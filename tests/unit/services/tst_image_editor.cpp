@@ -5,11 +5,13 @@
 #include "plugin/services/EditService.h"
 #include "plugin/services/SceneService.h"
 #include "plugin/services/UiService.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/SampleImages.h"
 #include "tests/support/SampleModels.h"
 #include "tests/unit/services/ImageTestCase.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -26,14 +28,21 @@ class TestImageEditor : public ImageTestCase
 private Q_SLOTS:
     void programGetsTheFiles_data();
     void programGetsTheFiles();
+    void everyNameArrivesAsOneArgument_data();
+    void everyNameArrivesAsOneArgument();
     void desktopOpensFilesWithoutAProgram();
     void launchFails_data();
     void launchFails();
+    void onlyImagesWithAbsolutePathsAreOpened_data();
+    void onlyImagesWithAbsolutePathsAreOpened();
 
     void linkedImageIsItsOwnEditFile();
     void embeddedImageIsCopiedForTheEditor_data();
     void embeddedImageIsCopiedForTheEditor();
     void unchangedCopyIsUsedAgain();
+#ifdef Q_OS_UNIX // Elsewhere no limit makes a disk look full.
+    void noCopyIsMadeOnAFullDisk();
+#endif
 
     void savedTextureIsReadAnew_data();
     void savedTextureIsReadAnew();
@@ -51,7 +60,10 @@ private Q_SLOTS:
     void filesOfAnotherSceneAreNotWatchedAnyMore();
 
 public Q_SLOTS:
-    void TakeUrl(const QUrl& url) { m_opened.append(url); }
+    void TakeUrl(const QUrl& url)
+    {
+        m_opened.append(url);
+    }
 
 protected:
     void SetUp() override;
@@ -59,6 +71,7 @@ protected:
 
 private:
     BF::Result Launch(const QStringList& files) const;
+    QStringList ArgumentsOfLaunch(const QStringList& files) const;
     QString EditFile() const;
     Host::Texture& Diffuse(Host::Object& object) const
     {
@@ -69,10 +82,16 @@ private:
     QString LaunchEmbeddedWeightImage();
     QVector<BF::CHandle*> WaitForChange();
     /// Waits longer than a change takes to be heard.
-    void WaitInVain() { QTest::qWait(600); }
+    void WaitInVain()
+    {
+        QTest::qWait(600);
+    }
 
     /// The colour that the diffuse texture has now.
-    QColor TextureColor() const { return m_host->Images().Store().Get(Diffuse(*m_hero))->image.pixelColor(0, 0); }
+    QColor TextureColor() const
+    {
+        return m_host->Images().Store().Get(Diffuse(*m_hero))->image.pixelColor(0, 0);
+    }
 
     QList<QUrl> m_opened;
     QVector<QVector<BF::CHandle*>> m_changes;
@@ -150,6 +169,18 @@ BF::Result TestImageEditor::Launch(const QStringList& files) const
     return m_host->GetUiService()->LaunchImageEditor(list);
 }
 
+/// What the stand-in for an editor was started with.
+QStringList TestImageEditor::ArgumentsOfLaunch(const QStringList& files) const
+{
+    const QString told = PathOf(QStringLiteral("told.txt"));
+    qputenv("SOFTCLOTH_EDITOR_NOTES", told.toUtf8());
+    QFile file(told);
+    if (!Launch(files).IsSuccess() || !QTest::qWaitFor([&] { return file.open(QIODevice::ReadOnly); })) {
+        return {QStringLiteral("nothing was started")};
+    }
+    return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+}
+
 QString TestImageEditor::EditFile() const
 {
     std::wstring path;
@@ -200,20 +231,49 @@ void TestImageEditor::programGetsTheFiles()
     QFETCH(QString, programName);
     QFETCH(QString, command);
     QFETCH(QStringList, arguments);
-    const QString told = PathOf(QStringLiteral("told.txt"));
-    qputenv("SOFTCLOTH_EDITOR_NOTES", told.toUtf8());
     const QFileInfo standIn(QStringLiteral(SOFTCLOTH_STAND_IN_EDITOR));
     const QString program = PathOf(programName.arg(standIn.suffix()));
     QVERIFY(QFile::copy(standIn.filePath(), program));
     m_host->Editor().SetProgram(command.arg(program));
     const QStringList files{SampleImages::WriteFile(PathOf(QStringLiteral("a b.png")), Png(Qt::red)),
                             SampleImages::WriteFile(PathOf(QStringLiteral("東京 $x.png")), Png(Qt::red))};
-    QCOMPARE(Launch(files), BF::Results::Success);
-    QTRY_VERIFY(QFile::exists(told));
-    QFile file(told);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts), arguments + files);
+    QCOMPARE(ArgumentsOfLaunch(files), arguments + files);
     QVERIFY(m_opened.isEmpty());
+}
+
+void TestImageEditor::everyNameArrivesAsOneArgument_data()
+{
+    QTest::addColumn<QString>("name");
+    const char* const names[] = {
+        "two  blanks .png",
+        " blank in front.png",
+        "-rf.png",
+        "--version",
+        "it's.png",
+        "$(touch x).png",
+        "`touch x`;touch y|z.png",
+        "100%n &amp; #1.png",
+        "größe 東京.png",
+        "\U0001F9E5.png",
+        "tab\there",
+        "~/.png",
+    };
+    for (const char* name : names) {
+        QTest::newRow(name) << QString::fromUtf8(name).replace(u'/', u'_');
+    }
+#ifdef Q_OS_UNIX // Elsewhere no file can be called so.
+    QTest::newRow("quotes") << QStringLiteral("a \"b\" 'c'.png");
+    QTest::newRow("wild cards") << QStringLiteral("*?[a]<>.png");
+    QTest::newRow("backslashes") << QStringLiteral("a\\ b\\\\.png");
+#endif
+}
+
+void TestImageEditor::everyNameArrivesAsOneArgument()
+{
+    QFETCH(QString, name);
+    m_host->Editor().SetProgram(QStringLiteral(SOFTCLOTH_STAND_IN_EDITOR));
+    const QStringList files{SampleImages::WriteFile(PathOf(name), Png(Qt::red))};
+    QCOMPARE(ArgumentsOfLaunch(files), files);
 }
 
 void TestImageEditor::desktopOpensFilesWithoutAProgram()
@@ -250,6 +310,56 @@ void TestImageEditor::launchFails()
     m_host->Editor().SetProgram(program == QLatin1String("a.png") ? PathOf(program) : program);
     QCOMPARE(Launch(files), BF::Results::Refused);
     QVERIFY(m_opened.isEmpty());
+}
+
+void TestImageEditor::onlyImagesWithAbsolutePathsAreOpened_data()
+{
+    QTest::addColumn<QString>("name"); // relative to the folder that is current
+    QTest::addColumn<bool>("isAbsolute");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("desktopOpensIt");
+    QTest::addColumn<bool>("programOpensIt");
+    const auto row = [](const char* title, const char* name, bool isAbsolute, const QByteArray& content, bool byDesktop,
+                        bool byProgram) {
+        QTest::newRow(title) << QString::fromLatin1(name) << isAbsolute << content << byDesktop << byProgram;
+    };
+    const QByteArray script = "#!/bin/sh\ntouch here\n";
+    row("image", "a.png", true, Png(Qt::red), true, true);
+    row("image with another image's name", "a.JPG", true, Png(Qt::red), true, true);
+    row("image without a suffix", "a", true, Png(Qt::red), true, true);
+    row("truncated image", "a.png", true, Png(Qt::red).left(30), true, true);
+    row("relative path", "a.png", false, Png(Qt::red), false, false);
+    row("option", "--version", false, Png(Qt::red), false, false);
+    row("script", "a.sh", true, script, false, false);
+    row("script with an image's name", "a.png", true, script, false, false);
+    row("program", "a.png", true,
+        QByteArray("\x7f"
+                   "ELF\2\1\1\0",
+                   8),
+        false, false);
+    row("shortcut", "a.desktop", true, "[Desktop Entry]\nExec=touch here\n", false, false);
+    row("empty", "a.png", true, QByteArray(), false, false);
+    // The desktop goes by the name: what begins like an image may be something else to it.
+    row("image's beginning under a script's name", "a.sh", true, "GIF89a=1\n" + script, false, true);
+}
+
+void TestImageEditor::onlyImagesWithAbsolutePathsAreOpened()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isAbsolute);
+    QFETCH(QByteArray, content);
+    QFETCH(bool, desktopOpensIt);
+    QFETCH(bool, programOpensIt);
+    const QString former = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_folder->path()));
+    SampleImages::WriteFile(PathOf(name), content);
+    const QString file = isAbsolute ? PathOf(name) : name;
+    QCOMPARE(Launch({file}), desktopOpensIt ? BF::Results::Success : BF::Results::Refused);
+    QCOMPARE(m_opened.size(), int(desktopOpensIt));
+    m_host->Editor().SetProgram(QStringLiteral(SOFTCLOTH_STAND_IN_EDITOR));
+    qputenv("SOFTCLOTH_EDITOR_NOTES", PathOf(QStringLiteral("told.txt")).toUtf8());
+    QCOMPARE(Launch({file}), programOpensIt ? BF::Results::Success : BF::Results::Refused);
+    QDir::setCurrent(former);
 }
 
 void TestImageEditor::linkedImageIsItsOwnEditFile()
@@ -291,6 +401,20 @@ void TestImageEditor::unchangedCopyIsUsedAgain()
     m_address = Host::Scene::SlotsOf(*m_hero).at(1);
     QVERIFY(LaunchEmbeddedWeightImage() != copy); // of another material
 }
+
+#ifdef Q_OS_UNIX
+void TestImageEditor::noCopyIsMadeOnAFullDisk()
+{
+    Load(SampleImages::WriteFile(PathOf(QStringLiteral("map.png")), Png(Qt::gray)));
+    Embed();
+    {
+        const FullDisk full{rlim_t(Weight().image.embedded.size() - 1)};
+        QCOMPARE(EditFile(), QString());
+        QCOMPARE(m_problems.size(), 1);
+    }
+    QVERIFY(QFile::exists(EditFile()));
+}
+#endif
 
 void TestImageEditor::savedTextureIsReadAnew_data()
 {
@@ -456,6 +580,6 @@ void TestImageEditor::filesOfAnotherSceneAreNotWatchedAnyMore()
     QVERIFY(m_changes.isEmpty());
 }
 
-QTEST_MAIN(TestImageEditor)
+SOFTCLOTH_TEST(TestImageEditor)
 
 #include "tst_image_editor.moc"

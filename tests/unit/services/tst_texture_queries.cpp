@@ -1,6 +1,7 @@
 #include "host/scene/Handles.h"
 #include "host/services/Pictures.h"
 #include "plugin/services/SceneService.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/SampleImages.h"
 #include "tests/unit/services/ImageTestCase.h"
 
@@ -8,7 +9,7 @@
 
 using MV::ETextureChannel;
 
-/// The scene service's answers about textures, thumbnails and UV layouts.
+/// The scene service's queries about textures, thumbnails and UV layouts.
 class TestTextureQueries : public ImageTestCase
 {
     Q_OBJECT
@@ -36,11 +37,14 @@ private Q_SLOTS:
     void materialIndexIsTheSameForObjectAndMesh();
     void uvLayoutIsDrawnOverTheTexture();
     void uvLayoutOfAMeshLeavesTheOthersOut();
+#ifdef Q_OS_UNIX // Elsewhere no limit makes a disk look full.
+    void noUvLayoutIsLeftOnAFullDisk();
+#endif
     void uvLayoutCannotBeExported_data();
     void uvLayoutCannotBeExported();
 
 private:
-    /// What GetMaterialTextureState and its companions answer.
+    /// What GetMaterialTextureState and its companions return.
     struct Answers
     {
         BF::Result state;
@@ -56,8 +60,14 @@ private:
         BF::CHandle* source = nullptr;
     };
     Answers Ask(Host::Id material, ETextureChannel channel) const;
-    Host::Id Skin() const { return m_address.material; }
-    Host::Texture& Diffuse() const { return m_hero->materials.at(0).textures[ETextureChannel::Diffuse]; }
+    Host::Id Skin() const
+    {
+        return m_address.material;
+    }
+    Host::Texture& Diffuse() const
+    {
+        return m_hero->materials.at(0).textures[ETextureChannel::Diffuse];
+    }
     BF::CHandle* Thumbnail(ETextureChannel channel = ETextureChannel::Diffuse) const
     {
         return Ask(Skin(), channel).thumbnail;
@@ -216,7 +226,7 @@ void TestTextureQueries::handleFollowsItsTexture()
     SetTexture(QStringLiteral("linked"));
     BF::CHandle* const thumbnail = Thumbnail();
     QCOMPARE(qGray(Render(thumbnail, {40, 20}).pixel(5, 10)), 0);
-    // A file of another size: the time alone does not tell two writes within one tick of the file system apart.
+    // A file of another size: the time alone does not distinguish two writes within one tick of the file system.
     ImageFile(QStringLiteral("skin.png"), SampleImages::Filled({200, 100}, Qt::red));
     QCOMPARE(Render(thumbnail, {40, 20}).pixelColor(5, 10), QColor(Qt::red));
 }
@@ -464,6 +474,23 @@ void TestTextureQueries::uvLayoutOfAMeshLeavesTheOthersOut()
     QVERIFY(hasLine(both, secondLine));
 }
 
+#ifdef Q_OS_UNIX
+void TestTextureQueries::noUvLayoutIsLeftOnAFullDisk()
+{
+    Diffuse().filePath = ImageFile(QStringLiteral("skin.png"), SampleImages::Filled({64, 64}, Qt::red));
+    BF::CArrayList<std::wstring> files{L"former"};
+    for (const rlim_t room : {0, 4096, 8000}) {
+        const FullDisk full{room};
+        QCOMPARE(Queries().ExportUvTexture(Host::ToHandle(m_address.mesh), 0, ETextureChannel::Diffuse, files),
+                 BF::Results::ResourceFailure);
+        QCOMPARE(files[0], std::wstring(L"former"));
+    }
+    QCOMPARE(m_problems.size(), 3);
+    QCOMPARE(Queries().ExportUvTexture(Host::ToHandle(m_address.mesh), 0, ETextureChannel::Diffuse, files),
+             BF::Results::Success);
+}
+#endif
+
 void TestTextureQueries::uvLayoutCannotBeExported_data()
 {
     QTest::addColumn<QString>("kind");
@@ -493,6 +520,6 @@ void TestTextureQueries::uvLayoutCannotBeExported()
     QCOMPARE(m_problems.size(), result == BF::Results::ResourceFailure ? 1 : 0);
 }
 
-QTEST_MAIN(TestTextureQueries)
+SOFTCLOTH_TEST(TestTextureQueries)
 
 #include "tst_texture_queries.moc"

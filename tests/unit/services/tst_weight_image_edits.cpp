@@ -3,6 +3,7 @@
 #include "plugin/services/EditService.h"
 #include "plugin/services/FileService.h"
 #include "plugin/services/SceneService.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/SampleImages.h"
 #include "tests/unit/services/ImageTestCase.h"
 
@@ -54,6 +55,9 @@ private Q_SLOTS:
     void imageCannotBeSaved_data();
     void imageCannotBeSaved();
     void failedSaveLeavesTheOldFile();
+#ifdef Q_OS_UNIX // Elsewhere no limit makes a disk look full.
+    void fullDiskLeavesTheOldFile();
+#endif
     void adjustedImageIsNotSavedOverItsOwnFile();
     void unknownPlaceIsInvalid();
 
@@ -69,7 +73,10 @@ private:
         Load(ImageFile(QStringLiteral("gray.png"), SampleImages::Filled({8, 8}, QColor(100, 100, 100))));
         Embed();
     }
-    int Steps() const { return CurrentScene().UndoStack().count(); }
+    int Steps() const
+    {
+        return CurrentScene().UndoStack().count();
+    }
 };
 
 void TestWeightImageEdits::materialWithoutImageTellsSo()
@@ -496,6 +503,26 @@ void TestWeightImageEdits::failedSaveLeavesTheOldFile()
     QCOMPARE(file.readAll(), QByteArray("old"));
 }
 
+#ifdef Q_OS_UNIX
+void TestWeightImageEdits::fullDiskLeavesTheOldFile()
+{
+    EmbedGray();
+    const QString path = SampleImages::WriteFile(PathOf(QStringLiteral("old.png")), "old");
+    const int size = Weight().image.embedded.size();
+    for (const int room : {0, 10, size - 1}) {
+        m_problems.clear();
+        const FullDisk full{rlim_t(room)};
+        QCOMPARE(Save(path), BF::Results::Refused);
+        QCOMPARE(m_problems.size(), 1);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("old"));
+    }
+    const FullDisk enough{rlim_t(size)};
+    QCOMPARE(Save(path), BF::Results::Success);
+}
+#endif
+
 void TestWeightImageEdits::adjustedImageIsNotSavedOverItsOwnFile()
 {
     const QString path = ImageFile(QStringLiteral("map.png"), SampleImages::Filled({4, 4}, Qt::gray));
@@ -528,6 +555,6 @@ void TestWeightImageEdits::unknownPlaceIsInvalid()
     QCOMPARE(Steps(), 0);
 }
 
-QTEST_MAIN(TestWeightImageEdits)
+SOFTCLOTH_TEST(TestWeightImageEdits)
 
 #include "tst_weight_image_edits.moc"

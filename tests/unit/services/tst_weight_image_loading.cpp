@@ -4,6 +4,7 @@
 #include "plugin/services/EditService.h"
 #include "plugin/services/FileService.h"
 #include "plugin/services/SceneService.h"
+#include "plugin/services/UiService.h"
 #include "tests/support/SampleImages.h"
 #include "tests/support/SampleModels.h"
 #include "tests/unit/services/ImageTestCase.h"
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void refusedLoadKeepsTheFormerImage();
     void badFileIsRefusedWithAMessage_data();
     void badFileIsRefusedWithAMessage();
+    void reasonIsForTheNextBoxOnly();
+    void meshWithoutUvsSaysSo();
     void unknownPlaceIsInvalid_data();
     void unknownPlaceIsInvalid();
     void failureByPlanLeavesAStepToTakeBack();
@@ -37,6 +40,10 @@ private Q_SLOTS:
     void tooManyMovingVerticesAreForTheUserToDecide();
     void sameLargeImageAgainCanBeTakenBack();
     void sameImageAgainIsNoStep();
+
+private:
+    /// The box of whoever asked for the image.
+    void ShowBox(const QString& text) const { m_host->GetUiService()->ShowMessageBox(text, {}, nullptr, 2, 0x400, 0); }
 };
 
 namespace {
@@ -185,7 +192,7 @@ void TestWeightImageLoading::blackImageIsRefusedAndTakenBack()
     QCOMPARE(Edits().UndoLastEdit(), BF::Results::Success);
     QVERIFY(CurrentScene().FindSlot(m_address)->cloth == cloth);
     QCOMPARE(CurrentScene().UndoStack().count(), 0); // nothing to redo either
-    QVERIFY(m_problems.isEmpty());                   // the caller tells the user
+    QVERIFY(m_problems.isEmpty());                   // the caller informs the user
 }
 
 void TestWeightImageLoading::imageThatIsBlackAtTheVerticesIsRefused()
@@ -245,6 +252,11 @@ void TestWeightImageLoading::badFileIsRefusedWithAMessage()
     const BF::Result result = Load(PathOf(name));
     QCOMPARE(result, BF::Results::ResourceFailure);
     QVERIFY(CurrentScene().FindSlot(m_address)->cloth == former);
+    // One message: the reason is in the box that the caller shows, which has no text of its own.
+    QVERIFY(m_problems.isEmpty());
+    ShowBox(QString());
+    QCOMPARE(m_problems.size(), 1);
+    ShowBox(QString());
     QCOMPARE(m_problems.size(), 1);
     QVERIFY2(m_problems.first().contains(QDir::toNativeSeparators(PathOf(name))) && m_problems.first().contains(reason),
              qPrintable(m_problems.first()));
@@ -254,6 +266,31 @@ void TestWeightImageLoading::badFileIsRefusedWithAMessage()
     QCOMPARE(Edits().UndoLastEdit(), BF::Results::Success);
     QVERIFY(CurrentScene().FindSlot(m_address)->cloth == former);
     QCOMPARE(CurrentScene().UndoStack().count(), 1);
+}
+
+void TestWeightImageLoading::reasonIsForTheNextBoxOnly()
+{
+    Load(PathOf(QStringLiteral("missing.png")));
+    ShowBox(QStringLiteral("Something else"));
+    QVERIFY(m_problems.isEmpty());
+    ShowBox(QString());
+    QVERIFY(m_problems.isEmpty());
+}
+
+void TestWeightImageLoading::meshWithoutUvsSaysSo()
+{
+    m_hero->meshes[0].uvs.clear();
+    // The lower left corner is where everything lies on the image then.
+    QCOMPARE(Load(ImageFile(QStringLiteral("half.png"), SampleImages::HalfBlack({8, 8}))),
+             BF::Results::ResourceFailure);
+    ShowBox(QString());
+    QCOMPARE(m_problems.size(), 1);
+    QVERIFY2(m_problems.first().contains(QStringLiteral("mesh \"Body\" has no texture coordinates")),
+             qPrintable(m_problems.first()));
+    QCOMPARE(Edits().UndoLastEdit(), BF::Results::Success);
+    QVERIFY(Weight().IsNone());
+    QCOMPARE(CurrentScene().UndoStack().count(), 0);
+    QCOMPARE(Load(ImageFile(QStringLiteral("white.png"), white)), BF::Results::Success);
 }
 
 void TestWeightImageLoading::unknownPlaceIsInvalid_data()
@@ -350,6 +387,6 @@ void TestWeightImageLoading::sameImageAgainIsNoStep()
     QCOMPARE(CurrentScene().UndoStack().count(), 1);
 }
 
-QTEST_MAIN(TestWeightImageLoading)
+SOFTCLOTH_TEST(TestWeightImageLoading)
 
 #include "tst_weight_image_loading.moc"

@@ -263,6 +263,6 @@ void TestQtUiLoader::destroyedSecondRootIsPassedOver()
     QCOMPARE(loader.UnresolvedNames(), QStringList({Name("qtOutside")}));
 }
 
-QTEST_MAIN(TestQtUiLoader)
+SOFTCLOTH_TEST(TestQtUiLoader)
 
 #include "tst_qt_ui_loader.moc"

@@ -158,6 +158,6 @@ void TestSignalBlocker::destroyedWidgetIsPassedOver()
     QVERIFY(!free.signalsBlocked());
 }
 
-QTEST_MAIN(TestSignalBlocker)
+SOFTCLOTH_TEST(TestSignalBlocker)
 
 #include "tst_signal_blocker.moc"

@@ -46,7 +46,7 @@ protected:
     /// Takes hold of the slider's handle, and lets it go.
     void PressHandle();
     void Release(const QPoint& position);
-    /// The point of the slider where the handle stands at half of the range.
+    /// The point of the slider where the handle is at half of the range.
     QPoint Away() const;
     /// Runs \p action with the new value at every ValueChanged.
     void OnChange(const std::function<void(double)>& action);
@@ -55,7 +55,7 @@ protected:
 
     std::unique_ptr<UserInput::Window> m_window;
     QPointer<QWidget> m_combo;
-    QVector<double> m_changes; ///< The values told by ValueChanged.
+    QVector<double> m_changes; ///< The values reported by ValueChanged.
     int m_finished = 0;        ///< How often EditFinished came.
 
 private Q_SLOTS:

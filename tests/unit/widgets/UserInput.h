@@ -48,7 +48,7 @@ void ReleaseKey(QWidget* widget, Qt::Key key);
 QPoint ArrowOf(const QAbstractSpinBox* box, QStyle::SubControl arrow);
 
 QRect HandleOf(const QSlider* slider);
-/// The point of \p slider where the middle of its handle stands at \p value.
+/// The point of \p slider where the middle of its handle is at \p value.
 QPoint PointOf(const QSlider* slider, int value);
 
 /// Moves the mouse with the left button held.

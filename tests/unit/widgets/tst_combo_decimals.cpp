@@ -114,6 +114,6 @@ void TestComboDecimals::rangeOfAllNumbersIsBearable()
     QCOMPARE(combo.Value(), 1.25);
 }
 
-QTEST_MAIN(TestComboDecimals)
+SOFTCLOTH_TEST(TestComboDecimals)
 
 #include "tst_combo_decimals.moc"

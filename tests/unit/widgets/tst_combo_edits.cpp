@@ -401,6 +401,6 @@ void TestComboEdits::windowOfItsOwnIsDestroyedDuringAnEdit()
     QCOMPARE(m_finished, 0);
 }
 
-QTEST_MAIN(TestComboEdits)
+SOFTCLOTH_TEST(TestComboEdits)
 
 #include "tst_combo_edits.moc"

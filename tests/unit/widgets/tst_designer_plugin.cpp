@@ -174,6 +174,6 @@ void TestDesignerPlugin::freshWidgetIsReadByAUiLoader()
     CheckFreshWidget(widget.get(), name);
 }
 
-QTEST_MAIN(TestDesignerPlugin)
+SOFTCLOTH_TEST(TestDesignerPlugin)
 
 #include "tst_designer_plugin.moc"

@@ -272,6 +272,6 @@ void TestFormsInDesigner::sameLook()
     QCOMPARE(m_inHost->grab().toImage(), picture);
 }
 
-QTEST_MAIN(TestFormsInDesigner)
+SOFTCLOTH_TEST(TestFormsInDesigner)
 
 #include "tst_forms_in_designer.moc"

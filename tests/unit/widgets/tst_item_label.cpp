@@ -61,7 +61,7 @@ protected:
     void TearDown() override;
 
 private:
-    /// What the label answers to a drag and, when it takes that, to the drop.
+    /// How the label reacts to a drag and, when it takes that, to the drop.
     bool Drop(const QList<QUrl>& urls);
     QImage Grab() { return m_label->grab().toImage(); }
 
@@ -368,6 +368,6 @@ void TestItemLabel::propertiesAreThoseOfADesigner()
     QCOMPARE(m_label->FileFilter(), QStringLiteral("tga"));
 }
 
-QTEST_MAIN(TestItemLabel)
+SOFTCLOTH_TEST(TestItemLabel)
 
 #include "tst_item_label.moc"

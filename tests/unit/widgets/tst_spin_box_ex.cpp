@@ -247,6 +247,6 @@ void TestSpinBoxEx::commitThatMovesTheFocusHappensOnce()
     QCOMPARE(m_commits, 1);
 }
 
-QTEST_MAIN(TestSpinBoxEx)
+SOFTCLOTH_TEST(TestSpinBoxEx)
 
 #include "tst_spin_box_ex.moc"

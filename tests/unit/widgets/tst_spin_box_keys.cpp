@@ -188,6 +188,6 @@ void TestSpinBoxKeys::redoStaysWithTypedText()
     QVERIFY(m_box->text().startsWith(QStringLiteral("12")));
 }
 
-QTEST_MAIN(TestSpinBoxKeys)
+SOFTCLOTH_TEST(TestSpinBoxKeys)
 
 #include "tst_spin_box_keys.moc"

@@ -319,6 +319,6 @@ void TestSpinBoxRuns::destroyedByItsCommit()
     QVERIFY(!m_box);
 }
 
-QTEST_MAIN(TestSpinBoxRuns)
+SOFTCLOTH_TEST(TestSpinBoxRuns)
 
 #include "tst_spin_box_runs.moc"

@@ -23,7 +23,7 @@ class CPhysicsSoftClothPlugin;
 } // namespace MV
 
 /// Stand-ins for the six parts of the panel: each call is written into the host's call journal, between the host
-/// calls of the plug-in object, and answers what the test has planned.
+/// calls of the plug-in object, and returns what the test has planned.
 struct FakeParts
 {
     /// What a part was initialised with.

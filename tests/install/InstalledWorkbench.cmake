@@ -1,0 +1,53 @@
+# Installs TREE into PREFIX, moves that elsewhere and runs the tour there. The loader says which libraries the program
+# takes: they must be the installed ones, although those of the build folder still lie where they were.
+cmake_minimum_required(VERSION 3.22)
+
+# run(<command>…): stops the test when the command fails
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        list(JOIN ARGN " " command)
+        message(FATAL_ERROR "${command}\nended with ${result}:\n${output}")
+    endif()
+endfunction()
+
+set(moved "${PREFIX}-moved")
+file(REMOVE_RECURSE "${PREFIX}" "${moved}")
+run("${CMAKE_COMMAND}" --install "${TREE}" --prefix "${PREFIX}")
+file(RENAME "${PREFIX}" "${moved}")
+
+foreach(file IN ITEMS "${PROGRAM}" "${PLUGIN}" "${SDK}" "${WIDGETS}" "${DESIGNER}" "${GUIDE}")
+    if(NOT EXISTS "${moved}/${file}")
+        message(FATAL_ERROR "${file} is not installed")
+    endif()
+endforeach()
+
+run("${CMAKE_COMMAND}" -E env LD_DEBUG=files "LD_DEBUG_OUTPUT=${moved}/loader" "XDG_CONFIG_HOME=${moved}/config"
+    "${moved}/${PROGRAM}" --language de --tour "${moved}/tour")
+
+file(GLOB pictures "${moved}/tour/*.png")
+if(NOT pictures)
+    message(FATAL_ERROR "The tour left no pictures")
+endif()
+set(loaded "")
+file(GLOB logs "${moved}/loader.*")
+foreach(log IN LISTS logs)
+    file(STRINGS "${log}" lines REGEX "calling init: ")
+    list(APPEND loaded ${lines})
+endforeach()
+foreach(library IN ITEMS "${PLUGIN}" "${SDK}" "${WIDGETS}")
+    get_filename_component(name "${library}" NAME)
+    set(taken ${loaded})
+    list(FILTER taken INCLUDE REGEX "/${name}$")
+    list(LENGTH taken count)
+    if(NOT count EQUAL 1)
+        message(FATAL_ERROR "${name} was loaded ${count} times:\n${taken}")
+    endif()
+    string(REGEX REPLACE ".*calling init: " "" taken "${taken}")
+    get_filename_component(taken "${taken}" REALPATH)
+    get_filename_component(wanted "${moved}/${library}" REALPATH)
+    if(NOT taken STREQUAL wanted)
+        message(FATAL_ERROR "${taken} was loaded in place of ${wanted}")
+    endif()
+endforeach()
+file(REMOVE_RECURSE "${moved}")
