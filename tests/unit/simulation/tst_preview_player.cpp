@@ -235,7 +235,6 @@ void TestPreviewPlayer::survivesRandomCalls()
     std::mt19937 random(5);
     PreviewPlayer player;
     PreviewFrame frame;
-    int taken = 0;
     for (int i = 0; i < 2000; ++i) {
         switch (random() % 10) {
         case 0:
@@ -260,7 +259,7 @@ void TestPreviewPlayer::survivesRandomCalls()
             player.SetMotion({Host::MotionKind(random() % 6), 0, random() % 2 == 0});
             break;
         case 7:
-            taken += player.TakeFrame(frame) ? 1 : 0;
+            player.TakeFrame(frame);
             break;
         case 8:
             player.State();
@@ -270,7 +269,10 @@ void TestPreviewPlayer::survivesRandomCalls()
             break;
         }
     }
-    QVERIFY(taken > 10);
+    player.SetMotion({});
+    player.SetModel(Curtain(16, 30));
+    player.Play();
+    QVERIFY(WaitForFrame(player, frame, [](const PreviewFrame& f) { return f.time > 0.2; }));
 }
 
 SOFTCLOTH_TEST_WITH(TestPreviewPlayer, QCoreApplication)
