@@ -9,7 +9,6 @@
 #include <QRunnable>
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace Host {
@@ -44,8 +43,20 @@ ImageStore::Key::Key(const Texture& source)
 
 bool ImageStore::Key::operator==(const Key& other) const
 {
-    return path == other.path && modified == other.modified && size == other.size &&
-           (embedded.isSharedWith(other.embedded) || embedded == other.embedded);
+    return modified == other.modified && size == other.size && IsSameSource(other);
+}
+
+bool ImageStore::Key::IsSameSource(const Key& other) const
+{
+    return path == other.path && (embedded.isSharedWith(other.embedded) || embedded == other.embedded);
+}
+
+/// Of embedded bytes only the first ones count: the rest is compared where these are the same.
+std::size_t ImageStore::SourceHash::operator()(const Key& key) const
+{
+    constexpr int most = 4096;
+    const auto first = static_cast<std::size_t>(std::min(key.embedded.size(), most));
+    return qHash(key.path) ^ qHashBits(key.embedded.constData(), first, static_cast<uint>(key.embedded.size()));
 }
 
 ImageStore::ImageStore(QObject* parent)
@@ -64,7 +75,7 @@ ImageStore::~ImageStore()
 ImageStore::Image ImageStore::Get(const Texture& source)
 {
     const Key key(source);
-    if (std::find(m_loading.begin(), m_loading.end(), key) != m_loading.end()) {
+    if (m_loading.count(key) > 0) {
         m_pool.waitForDone();
         TakeFinished();
     }
@@ -76,10 +87,9 @@ void ImageStore::LoadInBackground(const std::vector<Texture>& sources)
 {
     for (const Texture& source : sources) {
         const Key key(source);
-        if (Find(key) || std::find(m_loading.begin(), m_loading.end(), key) != m_loading.end()) {
+        if (Find(key) || !m_loading.insert(key).second) {
             continue;
         }
-        m_loading.push_back(key);
         m_pool.start([this, key] {
             Image image = Decode(key);
             const QMutexLocker lock(&m_mutex);
@@ -95,7 +105,7 @@ void ImageStore::LoadInBackground(const std::vector<Texture>& sources)
 
 bool ImageStore::IsLoading(const Texture& source) const
 {
-    return !m_loading.empty() && std::find(m_loading.begin(), m_loading.end(), Key(source)) != m_loading.end();
+    return !m_loading.empty() && m_loading.count(Key(source)) > 0;
 }
 
 QByteArray ImageStore::ReadForEmbedding(const QString& path, QString& error)
@@ -111,7 +121,9 @@ QByteArray ImageStore::ReadForEmbedding(const QString& path, QString& error)
 
 void ImageStore::ForgetFile(const QString& path)
 {
-    m_entries.remove_if([&path](const Entry& entry) { return entry.key.path == path; });
+    if (!path.isEmpty()) {
+        Remove(Key({path, {}}));
+    }
 }
 
 /// Runs on any thread.
@@ -128,21 +140,32 @@ ImageStore::Image ImageStore::Decode(const Key& key)
 
 const ImageStore::Entry* ImageStore::Find(const Key& key) const
 {
-    const auto found =
-        std::find_if(m_entries.begin(), m_entries.end(), [&key](const Entry& entry) { return entry.key == key; });
-    return found == m_entries.end() ? nullptr : &*found;
+    const auto found = m_places.find(key);
+    return found != m_places.end() && found->first == key ? &*found->second : nullptr;
 }
 
-/// Puts \p image in front, in place of what there was under \p key and of earlier states of the same file.
+/// Puts \p image in front, in place of what there was of the same source.
 ImageStore::Image ImageStore::Keep(const Key& key, Image image)
 {
-    m_entries.remove_if(
-        [&key](const Entry& entry) { return entry.key == key || (!key.path.isEmpty() && entry.key.path == key.path); });
+    Remove(key);
     m_entries.push_front({key, image});
-    qint64 bytes = 0;
-    const auto isTooMuch = [&bytes](const Entry& entry) { return (bytes += BytesOf(*entry.image)) > mostBytes; };
-    m_entries.erase(std::find_if(std::next(m_entries.begin()), m_entries.end(), isTooMuch), m_entries.end());
+    m_places.emplace(key, m_entries.begin());
+    m_bytes += BytesOf(*image);
+    while (m_bytes > mostBytes && m_entries.size() > 1) {
+        Remove(Key(m_entries.back().key));
+    }
     return image;
+}
+
+/// Forgets the image of the same source as \p source, if there is one.
+void ImageStore::Remove(const Key& source)
+{
+    const auto found = m_places.find(source);
+    if (found != m_places.end()) {
+        m_bytes -= BytesOf(*found->second->image);
+        m_entries.erase(found->second);
+        m_places.erase(found);
+    }
 }
 
 /// Takes over what was decoded in the background.
@@ -154,7 +177,7 @@ void ImageStore::TakeFinished()
         finished = std::exchange(m_finished, {});
     }
     for (Entry& entry : finished) {
-        m_loading.erase(std::remove(m_loading.begin(), m_loading.end(), entry.key), m_loading.end());
+        m_loading.erase(entry.key);
         Keep(entry.key, std::move(entry.image));
     }
 }

@@ -8,8 +8,11 @@
 #include <QThreadPool>
 
 #include <atomic>
+#include <cstddef>
 #include <list>
 #include <memory>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace Host {
@@ -70,21 +73,36 @@ private:
         QByteArray embedded;
 
         bool operator==(const Key& other) const;
+        /// Whether both are states of the same file, or the same embedded bytes.
+        bool IsSameSource(const Key& other) const;
+    };
+    struct SourceHash
+    {
+        std::size_t operator()(const Key& key) const;
+    };
+    struct IsSameSource
+    {
+        bool operator()(const Key& a, const Key& b) const { return a.IsSameSource(b); }
     };
     struct Entry
     {
         Key key;
         Image image;
     };
+    using Entries = std::list<Entry>;
 
     Image Decode(const Key& key);
     const Entry* Find(const Key& key) const;
     Image Keep(const Key& key, Image image);
+    void Remove(const Key& source);
     void TakeFinished();
     void Collect();
 
-    std::list<Entry> m_entries; ///< The one used last comes first.
-    std::vector<Key> m_loading;
+    Entries m_entries; ///< The one used last comes first.
+    /// Where the entry of a source is.
+    std::unordered_map<Key, Entries::iterator, SourceHash, IsSameSource> m_places;
+    qint64 m_bytes = 0; ///< Of all entries.
+    std::unordered_set<Key, SourceHash> m_loading;
     bool m_isLoading = false; ///< LoadingStarted() was sent and LoadingDone() is to come.
     QMutex m_mutex;
     std::vector<Entry> m_finished; ///< Decoded in the background and not collected yet; guarded.

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <limits>
 #include <tuple>
+#include <unordered_map>
 
 namespace Host {
 
@@ -157,13 +158,17 @@ void AppendTriangles(std::vector<quint32>& indices, const aiMesh& part, std::siz
     }
 }
 
+/// Positions of slots by the index of their material in the file.
+using SlotPlaces = std::unordered_map<unsigned, std::size_t>;
+
 /// The slot of the material with \p index in the file, named by its index plus one until the materials are chosen.
-MaterialSlot& SlotFor(Mesh& mesh, unsigned index)
+MaterialSlot& SlotFor(Mesh& mesh, SlotPlaces& places, unsigned index)
 {
-    const Id material = Id{index} + 1;
-    const auto found = std::find_if(mesh.materialSlots.begin(), mesh.materialSlots.end(),
-                                    [material](const MaterialSlot& slot) { return slot.material == material; });
-    return found != mesh.materialSlots.end() ? *found : mesh.materialSlots.emplace_back(MaterialSlot{material, {}, {}});
+    const auto [place, isNew] = places.emplace(index, mesh.materialSlots.size());
+    if (isNew) {
+        mesh.materialSlots.push_back({Id{index} + 1, {}, {}});
+    }
+    return mesh.materialSlots[place->second];
 }
 
 QString NameOf(const MeshNode& meshNode, const aiScene& scene)
@@ -178,11 +183,13 @@ Mesh ToMesh(const MeshNode& meshNode, const aiScene& scene, const QMatrix4x4& pl
     Mesh mesh;
     mesh.name = NameOf(meshNode, scene);
     const QMatrix4x4 transform = placement * ToMatrix(meshNode.transform);
+    SlotPlaces places;
     for (unsigned i = 0; i < meshNode.node->mNumMeshes; ++i) {
         const aiMesh& part = *scene.mMeshes[meshNode.node->mMeshes[i]];
         const std::size_t base = mesh.positions.size();
         AppendVertices(mesh, part, transform);
-        AppendTriangles(SlotFor(mesh, part.mMaterialIndex).indices, part, base, transform.determinant() < 0.0);
+        AppendTriangles(SlotFor(mesh, places, part.mMaterialIndex).indices, part, base,
+                        transform.determinant() < 0.0);
     }
     if (!mesh.uvs.empty()) {
         mesh.uvs.resize(mesh.positions.size());

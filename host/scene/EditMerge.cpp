@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cstddef>
+#include <map>
 #include <tuple>
 
 namespace Host {
@@ -42,17 +44,37 @@ bool TakeAfter(std::vector<Change>& changes, const std::vector<Change>& later)
     return true;
 }
 
+/// Adds one later change, which may be of the same thing as an earlier one or of another.
+template <class Change>
+void AddChange(std::vector<Change>& changes, const Change& later)
+{
+    const auto same = std::find_if(changes.begin(), changes.end(),
+                                   [&](const Change& earlier) { return KeyOf(earlier) == KeyOf(later); });
+    if (same == changes.end()) {
+        changes.push_back(later);
+    } else {
+        same->after = later.after;
+    }
+}
+
 /// Adds \p later changes, which may be of the same things or of others.
 template <class Change>
 void AddChanges(std::vector<Change>& changes, const std::vector<Change>& later)
 {
+    if (later.size() == 1) {
+        AddChange(changes, later.front());
+        return;
+    }
+    std::map<decltype(KeyOf(later.front())), std::size_t> places;
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        places.emplace(KeyOf(changes[i]), i);
+    }
     for (const Change& change : later) {
-        const auto same = std::find_if(changes.begin(), changes.end(),
-                                       [&](const Change& earlier) { return KeyOf(earlier) == KeyOf(change); });
-        if (same == changes.end()) {
+        const auto [place, isNew] = places.emplace(KeyOf(change), changes.size());
+        if (isNew) {
             changes.push_back(change);
         } else {
-            same->after = change.after;
+            changes[place->second].after = change.after;
         }
     }
 }

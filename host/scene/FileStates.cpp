@@ -5,8 +5,6 @@
 
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace Host {
 
 namespace {
@@ -104,12 +102,16 @@ QJsonObject StateWriter::Write(const WeightImage& weight)
 
 int StateWriter::NumberOf(const QByteArray& image)
 {
-    const auto found = std::find_if(m_images.begin(), m_images.end(), [&image](const QByteArray& known) {
-        return known.isSharedWith(image) || known == image;
-    });
-    const auto number = int(found - m_images.begin());
-    if (found == m_images.end()) {
-        m_images.push_back(image);
+    const auto place = m_numberByPlace.find(image.constData());
+    if (place != m_numberByPlace.end() && m_images[static_cast<std::size_t>(place->second)].size() == image.size()) {
+        return place->second;
+    }
+    const auto next = static_cast<int>(m_images.size());
+    const int number = m_numberByContent.value(image, next);
+    if (number == next) {
+        m_images.push_back(image); // keeps the place taken
+        m_numberByPlace.emplace(image.constData(), number);
+        m_numberByContent.insert(image, number);
     }
     return number;
 }

@@ -5,9 +5,11 @@
 
 #include <QByteArray>
 #include <QDir>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <unordered_map>
 #include <vector>
 
 namespace Host {
@@ -43,6 +45,8 @@ private:
 
     QDir m_folder;
     std::vector<QByteArray> m_images;
+    std::unordered_map<const char*, int> m_numberByPlace; ///< By where the bytes are: most images are shared.
+    QHash<QByteArray, int> m_numberByContent;
 };
 
 /// Reads states from a file of format version \p version in one folder. Throws SceneFormatError.

@@ -3,6 +3,7 @@
 #include "host/scene/EditMerge.h"
 #include "host/scene/Handles.h"
 
+#include <QSet>
 #include <QUndoCommand>
 
 #include <algorithm>
@@ -98,6 +99,14 @@ bool ChangesExistence(const SceneEdit& edit)
     return std::any_of(edit.objects.begin(), edit.objects.end(), [](const SceneEdit::ObjectChange& change) {
         return change.before.exists != change.after.exists;
     });
+}
+
+/// Leaves each object once. Handles are given in the order of adding.
+void SortInSceneOrder(QVector<BF::CHandle*>& objects)
+{
+    std::sort(objects.begin(), objects.end(),
+              [](const BF::CHandle* a, const BF::CHandle* b) { return ToId(a) < ToId(b); });
+    objects.erase(std::unique(objects.begin(), objects.end()), objects.end());
 }
 
 template <class Change>
@@ -281,8 +290,10 @@ QString Scene::NameOf(const BF::CHandle* handleOrId) const
 bool Scene::SetSelection(const QVector<BF::CHandle*>& handles)
 {
     QVector<BF::CHandle*> selection;
+    QSet<BF::CHandle*> taken;
     for (BF::CHandle* handle : handles) {
-        if (FindObject(handle) && !selection.contains(handle)) {
+        if (FindObject(handle) && !taken.contains(handle)) {
+            taken.insert(handle);
             selection.append(handle);
         }
     }
@@ -318,23 +329,20 @@ void Scene::Apply(const SceneEdit& edit, bool forward)
     ApplyAll(edit.materials, forward, m_index);
     ApplyAll(edit.objects, forward, m_index);
     m_applied.objectsChanged |= ChangesExistence(edit);
-    const QVector<BF::CHandle*> touched = ObjectsOf(edit);
-    for (BF::CHandle* handle : touched) {
-        if (!m_applied.objects.contains(handle)) {
-            m_applied.objects.append(handle);
-        }
-        if (!FindObject(handle)) {
-            m_applied.selectionChanged |= m_selection.removeAll(handle) > 0;
-        }
-    }
+    m_applied.objects += ObjectsOf(edit);
+    const auto isGone = [this](const BF::CHandle* handle) { return !FindObject(handle); };
+    const auto gone = std::remove_if(m_selection.begin(), m_selection.end(), isGone);
+    m_applied.selectionChanged |= gone != m_selection.end();
+    m_selection.erase(gone, m_selection.end());
 }
 
 void Scene::AnnounceApplied()
 {
-    const Applied applied = std::exchange(m_applied, {});
+    Applied applied = std::exchange(m_applied, {});
     if (applied.objects.isEmpty()) {
         return;
     }
+    SortInSceneOrder(applied.objects);
     if (applied.objectsChanged) {
         Q_EMIT ObjectsChanged();
     }
@@ -350,13 +358,8 @@ QVector<BF::CHandle*> Scene::ObjectsOf(const SceneEdit& edit) const
     AppendOwners(touched, edit.cloths, m_index);
     AppendOwners(touched, edit.materials, m_index);
     AppendOwners(touched, edit.objects, m_index);
-    QVector<BF::CHandle*> inOrder;
-    for (const auto& object : m_objects) {
-        if (touched.contains(object->handle)) {
-            inOrder.append(object->handle);
-        }
-    }
-    return inOrder;
+    SortInSceneOrder(touched);
+    return touched;
 }
 
 std::vector<SceneEdit> Scene::UndoSteps() const

@@ -4,6 +4,7 @@
 #include "host/services/WeightImages.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace Host {
 
@@ -103,9 +104,10 @@ void HostApplication::StepUndoStack(bool forward)
 /// What has come back is selected, as it was when it went or came.
 void HostApplication::SelectNewObjects(const std::vector<Object*>& existedBefore)
 {
+    const std::unordered_set<const Object*> before(existedBefore.begin(), existedBefore.end());
     QVector<BF::CHandle*> added;
     for (const Object* object : m_scene->Objects()) {
-        if (std::find(existedBefore.begin(), existedBefore.end(), object) == existedBefore.end()) {
+        if (before.count(object) == 0) {
             added.append(object->handle);
         }
     }

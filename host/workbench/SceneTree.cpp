@@ -6,8 +6,7 @@
 #include <QHeaderView>
 #include <QPixmap>
 #include <QScopedValueRollback>
-
-#include <algorithm>
+#include <QSet>
 
 namespace Host {
 
@@ -36,14 +35,21 @@ QTreeWidgetItem* NewRow(QTreeWidgetItem* parent, const QString& text, const Obje
     return row;
 }
 
-void AddMaterialRow(QTreeWidgetItem* parent, const Object& object, Id material)
+void AddMaterialRow(QTreeWidgetItem* parent, const Object& object, std::size_t index)
 {
-    const auto found = std::find_if(object.materials.begin(), object.materials.end(),
-                                    [material](const Material& candidate) { return candidate.id == material; });
-    if (found != object.materials.end()) {
-        QTreeWidgetItem* row = NewRow(parent, found->name, object);
-        row->setIcon(0, Swatch(found->diffuse));
-        row->setData(0, materialIndexRole, int(found - object.materials.begin()));
+    const Material& material = object.materials[index];
+    QTreeWidgetItem* row = NewRow(parent, material.name, object);
+    row->setIcon(0, Swatch(material.diffuse));
+    row->setData(0, materialIndexRole, int(index));
+}
+
+/// Rows that follow each other become one range: Qt takes the longer the more ranges there are.
+void AppendRow(QItemSelection& selection, const QModelIndex& row)
+{
+    if (!selection.isEmpty() && selection.last().bottom() + 1 == row.row()) {
+        selection.last() = QItemSelectionRange(selection.last().topLeft(), row);
+    } else {
+        selection.append(QItemSelectionRange(row));
     }
 }
 
@@ -76,12 +82,15 @@ void SceneTree::Rebuild()
 {
     const QScopedValueRollback<bool> showing(m_showing, true);
     clear();
-    for (const Object* object : m_host.CurrentScene().Objects()) {
+    const Scene& scene = m_host.CurrentScene();
+    for (const Object* object : scene.Objects()) {
         QTreeWidgetItem* objectRow = NewRow(invisibleRootItem(), object->name, *object);
         for (const Mesh& mesh : object->meshes) {
             QTreeWidgetItem* meshRow = NewRow(objectRow, mesh.name, *object);
             for (const MaterialSlot& slot : mesh.materialSlots) {
-                AddMaterialRow(meshRow, *object, slot.material);
+                if (const auto index = scene.PositionOfMaterial(*object, slot.material)) {
+                    AddMaterialRow(meshRow, *object, *index);
+                }
             }
         }
         objectRow->setExpanded(true);
@@ -92,24 +101,27 @@ void SceneTree::Rebuild()
 void SceneTree::ShowSelection()
 {
     const QScopedValueRollback<bool> showing(m_showing, true);
-    const QVector<BF::CHandle*>& selected = m_host.CurrentScene().Selection();
+    const QVector<BF::CHandle*>& selection = m_host.CurrentScene().Selection();
+    const QSet<BF::CHandle*> selected(selection.begin(), selection.end());
     const QList<QTreeWidgetItem*> current = selectedItems();
-    QVector<BF::CHandle*> shown;
+    QSet<BF::CHandle*> shown;
+    QItemSelection gone;
     for (const QTreeWidgetItem* item : current) {
-        shown.append(ObjectOf(item));
-    }
-    for (int i = 0; i < topLevelItemCount(); ++i) {
-        QTreeWidgetItem* row = topLevelItem(i);
-        const bool isSelected = selected.contains(ObjectOf(row));
-        if (isSelected && !shown.contains(ObjectOf(row))) {
-            row->setSelected(true);
-        }
-    }
-    for (QTreeWidgetItem* item : current) {
+        shown.insert(ObjectOf(item));
         if (!selected.contains(ObjectOf(item))) {
-            item->setSelected(false);
+            const QModelIndex row = indexFromItem(item);
+            gone.append(QItemSelectionRange(row));
         }
     }
+    QItemSelection added;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        BF::CHandle* const object = ObjectOf(topLevelItem(i));
+        if (selected.contains(object) && !shown.contains(object)) {
+            AppendRow(added, model()->index(i, 0));
+        }
+    }
+    selectionModel()->select(added, QItemSelectionModel::Select);
+    selectionModel()->select(gone, QItemSelectionModel::Deselect);
 }
 
 void SceneTree::OnSelectionChanged()
