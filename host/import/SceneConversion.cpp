@@ -188,8 +188,7 @@ Mesh ToMesh(const MeshNode& meshNode, const aiScene& scene, const QMatrix4x4& pl
         const aiMesh& part = *scene.mMeshes[meshNode.node->mMeshes[i]];
         const std::size_t base = mesh.positions.size();
         AppendVertices(mesh, part, transform);
-        AppendTriangles(SlotFor(mesh, places, part.mMaterialIndex).indices, part, base,
-                        transform.determinant() < 0.0);
+        AppendTriangles(SlotFor(mesh, places, part.mMaterialIndex).indices, part, base, transform.determinant() < 0.0);
     }
     if (!mesh.uvs.empty()) {
         mesh.uvs.resize(mesh.positions.size());
