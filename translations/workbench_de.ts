@@ -24,6 +24,21 @@
     </message>
 </context>
 <context>
+    <name>Host::Centre</name>
+    <message>
+        <source>The model is not shown, because there is no OpenGL 3.3 on this display.</source>
+        <translation>Das Modell wird nicht gezeigt, weil es auf diesem Bildschirm kein OpenGL 3.3 gibt.</translation>
+    </message>
+    <message>
+        <source>The model is not shown, because this workbench was built without a view of it.</source>
+        <translation>Das Modell wird nicht gezeigt, weil diese Workbench ohne eine Ansicht davon gebaut wurde.</translation>
+    </message>
+    <message>
+        <source>Host Calls</source>
+        <translation>Host-Aufrufe</translation>
+    </message>
+</context>
+<context>
     <name>Host::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -651,6 +666,13 @@
     <message>
         <source>%1 cm in the scene</source>
         <translation>%1 cm in der Szene</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewportWidget</name>
+    <message>
+        <source>View of the model</source>
+        <translation>Ansicht des Modells</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,21 @@
     </message>
 </context>
 <context>
+    <name>Host::Centre</name>
+    <message>
+        <source>The model is not shown, because there is no OpenGL 3.3 on this display.</source>
+        <translation>El modelo no se muestra porque esta pantalla no dispone de OpenGL 3.3.</translation>
+    </message>
+    <message>
+        <source>The model is not shown, because this workbench was built without a view of it.</source>
+        <translation>El modelo no se muestra porque este programa se compiló sin una vista de él.</translation>
+    </message>
+    <message>
+        <source>Host Calls</source>
+        <translation>Llamadas al anfitrión</translation>
+    </message>
+</context>
+<context>
     <name>Host::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -651,6 +666,13 @@
     <message>
         <source>%1 cm in the scene</source>
         <translation>%1 cm en la escena</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewportWidget</name>
+    <message>
+        <source>View of the model</source>
+        <translation>Vista del modelo</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,21 @@
     </message>
 </context>
 <context>
+    <name>Host::Centre</name>
+    <message>
+        <source>The model is not shown, because there is no OpenGL 3.3 on this display.</source>
+        <translation>Le modèle n’est pas affiché, car cet écran n’offre pas OpenGL 3.3.</translation>
+    </message>
+    <message>
+        <source>The model is not shown, because this workbench was built without a view of it.</source>
+        <translation>Le modèle n’est pas affiché, car ce programme a été construit sans vue du modèle.</translation>
+    </message>
+    <message>
+        <source>Host Calls</source>
+        <translation>Appels de l’hôte</translation>
+    </message>
+</context>
+<context>
     <name>Host::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -651,6 +666,13 @@
     <message>
         <source>%1 cm in the scene</source>
         <translation>%1 cm dans la scène</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewportWidget</name>
+    <message>
+        <source>View of the model</source>
+        <translation>Vue du modèle</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,21 @@
     </message>
 </context>
 <context>
+    <name>Host::Centre</name>
+    <message>
+        <source>The model is not shown, because there is no OpenGL 3.3 on this display.</source>
+        <translation>このディスプレイでは OpenGL 3.3 が使えないため、モデルは表示されません。</translation>
+    </message>
+    <message>
+        <source>The model is not shown, because this workbench was built without a view of it.</source>
+        <translation>このプログラムはモデルのビューなしでビルドされたため、モデルは表示されません。</translation>
+    </message>
+    <message>
+        <source>Host Calls</source>
+        <translation>ホスト呼び出し</translation>
+    </message>
+</context>
+<context>
     <name>Host::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -651,6 +666,13 @@
     <message>
         <source>%1 cm in the scene</source>
         <translation>シーン内で %1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewportWidget</name>
+    <message>
+        <source>View of the model</source>
+        <translation>モデルのビュー</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,21 @@
     </message>
 </context>
 <context>
+    <name>Host::Centre</name>
+    <message>
+        <source>The model is not shown, because there is no OpenGL 3.3 on this display.</source>
+        <translation>此显示器上没有 OpenGL 3.3，因此不显示模型。</translation>
+    </message>
+    <message>
+        <source>The model is not shown, because this workbench was built without a view of it.</source>
+        <translation>此程序构建时不含模型视图，因此不显示模型。</translation>
+    </message>
+    <message>
+        <source>Host Calls</source>
+        <translation>主程序调用</translation>
+    </message>
+</context>
+<context>
     <name>Host::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -651,6 +666,13 @@
     <message>
         <source>%1 cm in the scene</source>
         <translation>在场景中为 %1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewportWidget</name>
+    <message>
+        <source>View of the model</source>
+        <translation>模型视图</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,21 @@ class ImageStore : public QObject
 public:
     using Image = std::shared_ptr<const StoredImage>;
 
+    /// A state of an image's content.
+    struct Key
+    {
+        explicit Key(const Texture& source);
+
+        QString path;
+        qint64 modified = 0; ///< Of the file, in ms; 0 for none.
+        qint64 size = -1;    ///< Of the file.
+        QByteArray embedded;
+
+        bool operator==(const Key& other) const;
+        /// Whether both are states of the same file, or the same embedded bytes.
+        bool IsSameSource(const Key& other) const;
+    };
+
     explicit ImageStore(QObject* parent = nullptr);
     /// Waits for what is being decoded in the background.
     ~ImageStore() override;
@@ -62,20 +77,6 @@ Q_SIGNALS:
     void LoadingDone();
 
 private:
-    /// A state of an image's content.
-    struct Key
-    {
-        explicit Key(const Texture& source);
-
-        QString path;
-        qint64 modified = 0; ///< Of the file, in ms; 0 for none.
-        qint64 size = -1;    ///< Of the file.
-        QByteArray embedded;
-
-        bool operator==(const Key& other) const;
-        /// Whether both are states of the same file, or the same embedded bytes.
-        bool IsSameSource(const Key& other) const;
-    };
     struct SourceHash
     {
         std::size_t operator()(const Key& key) const;

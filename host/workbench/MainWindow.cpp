@@ -1,12 +1,12 @@
 #include "host/workbench/MainWindow.h"
 
 #include "host/services/UserDialogs.h"
-#include "host/workbench/HostCallsView.h"
 #include "host/workbench/HostControls.h"
 #include "host/workbench/LanguageMenu.h"
 #include "host/workbench/Languages.h"
 #include "host/workbench/ModifyPanel.h"
 #include "host/workbench/SceneTree.h"
+#include "host/workbench/window/Centre.h"
 #include "host/workbench/window/DialogPlace.h"
 #include "host/workbench/window/EditMenu.h"
 #include "host/workbench/window/MovingVertices.h"
@@ -98,7 +98,7 @@ void MainWindow::CreateDocks()
         addDockWidget(area, dock);
         return dock;
     };
-    setCentralWidget(new HostCallsView(m_host.Journal(), this));
+    new Centre(m_host, *this);
     auto* sceneTree = new SceneTree(m_host);
     m_edit->DeleteFrom(sceneTree);
     QDockWidget* tree = addDock(tr("Scene"), "sceneDock", sceneTree, Qt::LeftDockWidgetArea);

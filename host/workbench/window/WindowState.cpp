@@ -12,7 +12,7 @@ namespace {
 const QString geometryKey = QStringLiteral("window/geometry");
 const QString docksKey = QStringLiteral("window/docks");
 /// Docks of another layout would end up anywhere.
-constexpr int layoutVersion = 1;
+constexpr int layoutVersion = 2;
 
 constexpr QSize comfortable(1440, 860);
 /// What a window manager puts around a window.

@@ -3,6 +3,7 @@
 #include "tests/panel/workbench/WorkbenchTestCase.h"
 
 #include <QDockWidget>
+#include <QLabel>
 #include <QScreen>
 
 /// Places and sizes of the workbench's windows.
@@ -15,6 +16,7 @@ private Q_SLOTS:
     void firstWindowFitsTheScreen();
     void windowIsOnTheScreen();
     void sizeAndDocksAreRemembered();
+    void callsAreTheCentreWhereNothingCanBeDrawn();
     void dialogOpensBesideThePanel();
     void dialogStaysWhereTheUserPutsIt();
     void placeBesideThePanel_data();
@@ -51,6 +53,16 @@ void TestWorkbenchWindow::sizeAndDocksAreRemembered()
     QCOMPARE(Window().size(), size);
     QVERIFY(!Child<QDockWidget>(&Window(), "controlsDock")->isVisible());
     QCOMPARE(Window().dockWidgetArea(Child<QDockWidget>(&Window(), "modifyDock")), Qt::LeftDockWidgetArea);
+}
+
+void TestWorkbenchWindow::callsAreTheCentreWhereNothingCanBeDrawn()
+{
+    const QWidget* centre = Window().centralWidget();
+    QVERIFY(centre->findChild<QWidget*>(QStringLiteral("hostCallsTable"))->isVisible());
+    QVERIFY(!Window().findChild<QWidget*>(QStringLiteral("viewport")));
+    const auto* reason = Child<QLabel>(&Window(), "viewportMissing");
+    QVERIFY(reason->isVisible());
+    QVERIFY(reason->text().startsWith(QStringLiteral("The model is not shown, because")));
 }
 
 void TestWorkbenchWindow::dialogOpensBesideThePanel()
