@@ -804,6 +804,13 @@
     </message>
 </context>
 <context>
+    <name>PreviewText</name>
+    <message>
+        <source>The preview stopped because the cloth got out of control. Reset starts it again.</source>
+        <translation>Die Vorschau wurde angehalten, weil der Stoff außer Kontrolle geriet. Zurücksetzen startet sie neu.</translation>
+    </message>
+</context>
+<context>
     <name>Scene</name>
     <message>
         <source>Several values</source>

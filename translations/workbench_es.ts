@@ -804,6 +804,13 @@
     </message>
 </context>
 <context>
+    <name>PreviewText</name>
+    <message>
+        <source>The preview stopped because the cloth got out of control. Reset starts it again.</source>
+        <translation>La vista previa se detuvo porque la tela quedó fuera de control. Restablecer la inicia de nuevo.</translation>
+    </message>
+</context>
+<context>
     <name>Scene</name>
     <message>
         <source>Several values</source>

@@ -804,6 +804,13 @@
     </message>
 </context>
 <context>
+    <name>PreviewText</name>
+    <message>
+        <source>The preview stopped because the cloth got out of control. Reset starts it again.</source>
+        <translation>L’aperçu s’est arrêté parce que le tissu est devenu incontrôlable. Réinitialiser le relance.</translation>
+    </message>
+</context>
+<context>
     <name>Scene</name>
     <message>
         <source>Several values</source>

@@ -804,6 +804,13 @@
     </message>
 </context>
 <context>
+    <name>PreviewText</name>
+    <message>
+        <source>The preview stopped because the cloth got out of control. Reset starts it again.</source>
+        <translation>クロスが制御不能になったため、プレビューを停止しました。リセットすると再開します。</translation>
+    </message>
+</context>
+<context>
     <name>Scene</name>
     <message>
         <source>Several values</source>

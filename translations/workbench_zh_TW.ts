@@ -804,6 +804,13 @@
     </message>
 </context>
 <context>
+    <name>PreviewText</name>
+    <message>
+        <source>The preview stopped because the cloth got out of control. Reset starts it again.</source>
+        <translation>布料失去控制，預覽已停止。重設可重新開始。</translation>
+    </message>
+</context>
+<context>
     <name>Scene</name>
     <message>
         <source>Several values</source>

@@ -77,7 +77,7 @@ void BodyContacts::Solve(ClothParticles& particles, const BodyCollider& body, co
         return;
     }
     for (std::size_t i = 0; i < m_known.size(); ++i) {
-        if (particles.inverseMasses[i] <= 0.0F) {
+        if (particles.inverseMasses[i] <= 0.0F || !particles.places[i].allFinite()) {
             continue;
         }
         Known& known = m_known[i];

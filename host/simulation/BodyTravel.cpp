@@ -23,7 +23,7 @@ BodyTravel::BodyTravel(const Vectors& places)
         }
         for (std::size_t axis = 0; axis < 3; ++axis) {
             const float size = high[Eigen::Index(axis)] - m_corner[Eigen::Index(axis)];
-            m_size[axis] = int(std::clamp(size / regionSize, 0.0F, float(mostRegions - 1))) + 1;
+            m_size[axis] = size > 0.0F ? int(std::min(size / regionSize, float(mostRegions - 1))) + 1 : 1;
         }
     }
     m_regions.resize(std::size_t(m_size[0] * m_size[1] * m_size[2]));
@@ -35,7 +35,8 @@ std::array<int, 3> BodyTravel::CellOf(const Vector& place) const
     std::array<int, 3> cell{};
     for (std::size_t axis = 0; axis < 3; ++axis) {
         const float at = (place[Eigen::Index(axis)] - m_corner[Eigen::Index(axis)]) / regionSize;
-        cell[axis] = int(std::clamp(at, 0.0F, float(m_size[axis] - 1)));
+        // What is no number is nowhere, which may be anywhere.
+        cell[axis] = at > 0.0F ? int(std::min(at, float(m_size[axis] - 1))) : 0;
     }
     return cell;
 }

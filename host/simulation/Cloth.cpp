@@ -200,7 +200,7 @@ void Cloth::FindAir(const ClothFrame& frame, float dt)
         // A third of the force of the triangle's area on each corner; half the normal's length is the area.
         const float push = (frame.airVelocity - velocity).dot(normal) * rate / (6.0F * std::sqrt(square));
         for (const int vertex : triangle) {
-            m_accelerations[std::size_t(vertex)] += (push * m_particles.inverseMasses[std::size_t(vertex)]) * normal;
+            m_air[std::size_t(vertex)] += (push * m_particles.inverseMasses[std::size_t(vertex)]) * normal;
         }
     }
 }

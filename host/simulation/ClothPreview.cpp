@@ -5,10 +5,22 @@
 #include "host/simulation/ModelPose.h"
 #include "host/simulation/PreviewPieces.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
 namespace Host {
+
+namespace {
+
+/// Where the reasons are translated.
+class PreviewText
+{
+    Q_DECLARE_TR_FUNCTIONS(PreviewText)
+};
+
+} // namespace
 
 class ClothPreview::Private
 {
@@ -32,7 +44,8 @@ public:
     void Follow(ClothPiece& piece) const;
     void ToScene(const Vectors& places, const Eigen::Isometry3d& place, std::size_t mesh,
                  std::vector<QVector3D>& positions) const;
-    void Check();
+    /// \return false, and says why, when there is a piece that has gone where no cloth can be
+    bool Check();
 
     PreviewModel model;
     ModelPose pose;
@@ -128,11 +141,14 @@ void ClothPreview::Private::ToScene(const Vectors& places, const Eigen::Isometry
     }
 }
 
-void ClothPreview::Private::Check()
+bool ClothPreview::Private::Check()
 {
-    if (!std::all_of(pieces.begin(), pieces.end(), [](const ClothPiece& piece) { return piece.cloth->IsSound(); })) {
-        problem = QStringLiteral("The preview stopped because the cloth got out of control. Reset starts it again.");
+    const bool isSound =
+        std::all_of(pieces.begin(), pieces.end(), [](const ClothPiece& piece) { return piece.cloth->IsSound(); });
+    if (!isSound) {
+        problem = PreviewText::tr("The preview stopped because the cloth got out of control. Reset starts it again.");
     }
+    return isSound;
 }
 
 ClothPreview::ClothPreview(PreviewModel model)
@@ -170,7 +186,8 @@ void ClothPreview::SetMotion(const MotionChoice& motion)
 
 void ClothPreview::Step()
 {
-    if (!d->problem.isEmpty()) {
+    // A model may come with vertices that are out of all bounds.
+    if (!d->problem.isEmpty() || !d->Check()) {
         return;
     }
     const ObjectAcceleration felt =

@@ -124,8 +124,8 @@ void SelfCollision::FindPairs(const ClothParticles& particles, float margin)
 {
     m_turn = 1 - m_turn;
     m_pairs[m_turn].clear();
-    const auto isFinite = [](const Vector& place) { return place.allFinite(); };
-    if (margin <= 0.0F || !std::all_of(particles.places.begin(), particles.places.end(), isFinite)) {
+    const auto isSound = [](const Vector& place) { return std::isfinite(place.squaredNorm()); };
+    if (margin <= 0.0F || !std::all_of(particles.places.begin(), particles.places.end(), isSound)) {
         m_pairs[1 - m_turn].clear();
         return;
     }

@@ -56,6 +56,36 @@ Host::ClothValues Plain()
     return values;
 }
 
+Host::Object TwoSquares()
+{
+    Host::Object object;
+    object.name = QStringLiteral("Squares");
+    Host::Mesh mesh;
+    mesh.name = QStringLiteral("Sheet");
+    for (int side = 0; side < 2; ++side) {
+        Host::ClothShape shape = ClothSamples::Sheet(8, 8, 2.5F);
+        const auto base = quint32(mesh.positions.size());
+        Host::MaterialSlot slot;
+        slot.material = Host::Id(side) + 1;
+        for (const Host::Vector& place : shape.rest) {
+            mesh.positions.emplace_back(place.x() + 20.0F * float(side), place.y(), 0.0F);
+            mesh.uvs.emplace_back(place.x() / 20.0F, 1.0F + place.y() / 20.0F);
+        }
+        for (const auto& triangle : shape.triangles) {
+            for (const int vertex : triangle) {
+                slot.indices.push_back(base + quint32(vertex));
+            }
+        }
+        mesh.materialSlots.push_back(slot);
+        Host::Material material;
+        material.name = side == 0 ? QStringLiteral("Left") : QStringLiteral("Right");
+        object.materials.push_back(material);
+    }
+    object.meshes.push_back(mesh);
+    object.state.softCloth = true;
+    return object;
+}
+
 void Run(Host::ClothPreview& preview, double seconds)
 {
     const auto frames = int(std::lround(seconds / Host::ClothPreview::frameDuration));

@@ -15,6 +15,10 @@ Host::PreviewModel WithBody(const Host::ClothShape& shape, const ClothSamples::B
 /// Values without damping and inertia of their own: rigid, without bending, tether or collision.
 Host::ClothValues Plain();
 
+/// Two squares of 20 cm beside each other in one mesh "Sheet", with a material each, "Left" and "Right"; finely
+/// divided. The object has soft cloth physics, its materials are not active yet.
+Host::Object TwoSquares();
+
 /// Steps on for \p seconds.
 void Run(Host::ClothPreview& preview, double seconds);
 /// The first mesh's positions.

@@ -27,8 +27,6 @@ private Q_SLOTS:
     void hangingThreadComesToTheCatenary();
     void elasticThreadStretchesByItsWeight_data();
     void elasticThreadStretchesByItsWeight();
-    void energyNeverGrowsWithoutWind_data();
-    void energyNeverGrowsWithoutWind();
     void tetherLimitIsKept_data();
     void tetherLimitIsKept();
     void heldVerticesFollowExactly();
@@ -182,61 +180,6 @@ void TestClothMotion::elasticThreadStretchesByItsWeight()
     QVERIFY2(std::fabs(stretch / 0.05 - 1.0) < tolerance, qPrintable(QString::number(stretch)));
 }
 
-void TestClothMotion::energyNeverGrowsWithoutWind_data()
-{
-    QTest::addColumn<float>("frequency");
-    QTest::addColumn<float>("modulus");
-    QTest::addColumn<float>("bend");
-    QTest::addColumn<float>("drag");
-    QTest::newRow("rigid") << 240.0F << std::numeric_limits<float>::infinity() << 0.0F << 0.0F;
-    QTest::newRow("rigid, few substeps") << 60.0F << std::numeric_limits<float>::infinity() << 0.0F << 0.0F;
-    QTest::newRow("elastic") << 240.0F << 5e5F << 0.0F << 0.0F;
-    QTest::newRow("rigid, 75 substeps") << 75.0F << std::numeric_limits<float>::infinity() << 0.0F << 0.0F;
-    QTest::newRow("rigid to bending as well")
-        << 240.0F << std::numeric_limits<float>::infinity() << std::numeric_limits<float>::infinity() << 0.0F;
-    QTest::newRow("stiff") << 240.0F << 1e7F << 1e6F << 0.0F;
-    QTest::newRow("in the air") << 240.0F << 1e7F << 1e4F << 2.0F;
-}
-
-void TestClothMotion::energyNeverGrowsWithoutWind()
-{
-    QFETCH(float, frequency);
-    QFETCH(float, modulus);
-    QFETCH(float, bend);
-    QFETCH(float, drag);
-    // Swings down from lying flat.
-    ClothShape shape = HangingSheet(20, 20, 2.0F);
-    for (Vector& place : shape.rest) {
-        place = {place.x(), 0.0F, -place.y(), 0.0F};
-    }
-    Cloth cloth(shape);
-    Host::SolverValues values = Ideal(frequency);
-    values.stretchModulus = modulus;
-    values.bendModulus = bend;
-    values.dragRate = drag;
-    cloth.SetValues(values);
-    const Vector down = Falling().acceleration;
-    Run(cloth, 1.0 / 60.0);
-    const double first = cloth.Energy(down);
-    double scale = 0.0;
-    for (const float mass : cloth.Masses()) {
-        scale += double(mass) * gravity * 40.0; // the fall of all of it through the sheet's length
-    }
-    // What is stored in the stretch comes and goes: the highest of a second is what must not grow.
-    double before = first;
-    for (int second = 0; second < 10; ++second) {
-        double highest = -1e30;
-        for (int frame = 0; frame < 60; ++frame) {
-            Run(cloth, 1.0 / 60.0);
-            highest = std::max(highest, cloth.Energy(down));
-        }
-        QVERIFY2(highest < before + 1e-3 * scale,
-                 qPrintable(QStringLiteral("second %1: %2").arg(second).arg((highest - before) / scale)));
-        before = highest;
-    }
-    QVERIFY(before < first - 0.05 * scale);
-}
-
 void TestClothMotion::tetherLimitIsKept_data()
 {
     QTest::addColumn<float>("limit");
@@ -257,7 +200,7 @@ void TestClothMotion::tetherLimitIsKept()
     ClothFrame frame = Falling();
     frame.acceleration.z() = 700.0F;
     float most = 0.0F;
-    for (int i = 0; i < 300; ++i) {
+    for (int i = 0; i < 150; ++i) {
         Run(cloth, 1.0 / 60.0, frame);
         for (const Host::Tether& tether : cloth.TetherList()) {
             const float length =

@@ -23,9 +23,12 @@ private Q_SLOTS:
     void onlyWhatTakesPartSimulates_data();
     void onlyWhatTakesPartSimulates();
     void weightImageHoldsBlackVertices();
-    void brightnessFreesHeldVertices();
+    void adjustmentChangesWhatIsHeld_data();
+    void adjustmentChangesWhatIsHeld();
     void sceneStaysAsItIs();
     void heldVerticesStayWhereTheModelIs();
+    void heldVerticesFollowTheMotion_data();
+    void heldVerticesFollowTheMotion();
     void seamsOfTexturesStayClosed();
     void bordersOfTwoMaterialsStayClosed_data();
     void bordersOfTwoMaterialsStayClosed();
@@ -38,41 +41,12 @@ private Q_SLOTS:
     void motionStartsAtRestAndEndsThere();
     void normalsAreThoseOfTheSurface();
     void problemStopsUntilReset();
+    void strangePlacesStopThePreview_data();
+    void strangePlacesStopThePreview();
     void emptyModelDoesNothing();
 };
 
 namespace {
-
-/// Two squares of 20 cm beside each other in one mesh, with a material each; finely divided.
-Host::Object TwoSquares()
-{
-    Host::Object object;
-    object.name = QStringLiteral("Squares");
-    Host::Mesh mesh;
-    mesh.name = QStringLiteral("Sheet");
-    for (int side = 0; side < 2; ++side) {
-        ClothShape shape = ClothSamples::Sheet(8, 8, 2.5F);
-        const auto base = quint32(mesh.positions.size());
-        Host::MaterialSlot slot;
-        slot.material = Host::Id(side) + 1;
-        for (const Host::Vector& place : shape.rest) {
-            mesh.positions.emplace_back(place.x() + 20.0F * float(side), place.y(), 0.0F);
-            mesh.uvs.emplace_back(place.x() / 20.0F, 1.0F + place.y() / 20.0F);
-        }
-        for (const auto& triangle : shape.triangles) {
-            for (const int vertex : triangle) {
-                slot.indices.push_back(base + quint32(vertex));
-            }
-        }
-        mesh.materialSlots.push_back(slot);
-        Host::Material material;
-        material.name = side == 0 ? QStringLiteral("Left") : QStringLiteral("Right");
-        object.materials.push_back(material);
-    }
-    object.meshes.push_back(mesh);
-    object.state.softCloth = true;
-    return object;
-}
 
 /// White below, black in the uppermost eighth.
 QImage HangingWeights(const Host::Texture& /*texture*/)
@@ -114,7 +88,7 @@ void TestClothPreview::onlyWhatTakesPartSimulates()
     QFETCH(bool, ignored);
     QFETCH(bool, simulates);
     Host::Scene scene;
-    Host::Object& object = scene.AddObject(TwoSquares());
+    Host::Object& object = scene.AddObject(PreviewSamples::TwoSquares());
     object.state.softCloth = softCloth;
     object.meshes[0].materialSlots[0].cloth.active = active;
     object.materials[0].state.softClothEnabled = enabled;
@@ -129,7 +103,7 @@ void TestClothPreview::onlyWhatTakesPartSimulates()
 
 void TestClothPreview::weightImageHoldsBlackVertices()
 {
-    Host::Object object = TwoSquares();
+    Host::Object object = PreviewSamples::TwoSquares();
     Host::MaterialSlot& slot = object.meshes[0].materialSlots[0];
     slot.cloth.active = true;
     object.materials[0].id = 1;
@@ -144,23 +118,47 @@ void TestClothPreview::weightImageHoldsBlackVertices()
     QVERIFY(std::isinf(model.meshes[0].materialSlots[0].freedom[0]));
 }
 
-void TestClothPreview::brightnessFreesHeldVertices()
+void TestClothPreview::adjustmentChangesWhatIsHeld_data()
 {
-    Host::Object object = TwoSquares();
+    QTest::addColumn<int>("brightness");
+    QTest::addColumn<int>("contrast");
+    QTest::addColumn<int>("black"); ///< What becomes of black …
+    QTest::addColumn<int>("gray");  ///< … and of 100.
+    QTest::newRow("none") << 0 << 0 << 0 << 100;
+    QTest::newRow("brighter: nothing is held") << 20 << 0 << 51 << 151;
+    QTest::newRow("darker: gray is held as well") << -50 << 0 << 0 << 0;
+    QTest::newRow("more contrast: gray goes to black") << 0 << 100 << 0 << 0;
+}
+
+void TestClothPreview::adjustmentChangesWhatIsHeld()
+{
+    QFETCH(int, brightness);
+    QFETCH(int, contrast);
+    QFETCH(int, black);
+    QFETCH(int, gray);
+    Host::Object object = PreviewSamples::TwoSquares();
     Host::MaterialSlot& slot = object.meshes[0].materialSlots[0];
     slot.cloth.active = true;
     object.materials[0].id = 1;
     slot.cloth.weight.image.filePath = anyFile;
-    slot.cloth.weight.brightness = 20;
-    const PreviewModel model = Host::MakePreviewModel(object, HangingWeights);
-    const float freedom = model.meshes[0].materialSlots[0].freedom[0];
-    QVERIFY(freedom == Host::AllowedDistance(51));
+    slot.cloth.weight.brightness = brightness;
+    slot.cloth.weight.contrast = contrast;
+    const auto weights = [](const Host::Texture&) {
+        QImage image = HangingWeights({});
+        std::memset(image.scanLine(7), 100, 8);
+        return image;
+    };
+    const PreviewModel model = Host::MakePreviewModel(object, weights);
+    const auto& freedom = model.meshes[0].materialSlots[0].freedom;
+    QCOMPARE(freedom[0], Host::AllowedDistance(black));
+    QCOMPARE(freedom[72], Host::AllowedDistance(gray));
+    QVERIFY(std::isinf(freedom[36]) == (brightness >= 0));
 }
 
 void TestClothPreview::sceneStaysAsItIs()
 {
     Host::Scene scene;
-    Host::Object& object = scene.AddObject(TwoSquares());
+    Host::Object& object = scene.AddObject(PreviewSamples::TwoSquares());
     object.meshes[0].materialSlots[0].cloth.active = true;
     const auto positions = object.meshes[0].positions;
     const int steps = scene.UndoStack().count();
@@ -187,6 +185,42 @@ void TestClothPreview::heldVerticesStayWhereTheModelIs()
             QVERIFY(positions[k] == model.meshes[0].positions[k]);
         }
     }
+}
+
+void TestClothPreview::heldVerticesFollowTheMotion_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("sway") << int(MotionKind::Sway);
+    QTest::newRow("turn") << int(MotionKind::Turn);
+    QTest::newRow("jump") << int(MotionKind::Jump);
+    QTest::newRow("walk") << int(MotionKind::Walk);
+}
+
+/// Compared with the same object of which nothing simulates, to the last bit.
+void TestClothPreview::heldVerticesFollowTheMotion()
+{
+    QFETCH(int, kind);
+    ClothShape shape = ClothSamples::HangingSheet(8, 8, 3.0F);
+    for (Host::Vector& place : shape.rest) {
+        place.x() -= 12.0F; // in the middle, where it is no limb
+    }
+    PreviewModel model = PreviewSamples::WithBody(shape, ClothSamples::Ball(20.0F));
+    ClothPreview preview(model);
+    model.meshes[0].materialSlots[0].simulates = false;
+    ClothPreview bare(model);
+    for (ClothPreview* each : {&preview, &bare}) {
+        each->SetMotion({MotionKind(kind), 0, true});
+    }
+    const auto start = PreviewSamples::Positions(bare);
+    for (int i = 0; i < 40; ++i) {
+        preview.Step();
+        bare.Step();
+        const auto positions = PreviewSamples::Positions(preview);
+        const auto followed = PreviewSamples::Positions(bare);
+        QVERIFY(std::equal(followed.begin(), followed.begin() + 9, positions.begin()));
+        QVERIFY(positions.back() != followed.back());
+    }
+    QVERIFY(PreviewSamples::Positions(bare) != start);
 }
 
 void TestClothPreview::seamsOfTexturesStayClosed()
@@ -224,7 +258,7 @@ void TestClothPreview::bordersOfTwoMaterialsStayClosed()
 {
     QFETCH(bool, bothSimulate);
     Host::Scene scene;
-    Host::Object& object = scene.AddObject(TwoSquares());
+    Host::Object& object = scene.AddObject(PreviewSamples::TwoSquares());
     for (int side = 0; side < (bothSimulate ? 2 : 1); ++side) {
         auto& slot = object.meshes[0].materialSlots[std::size_t(side)];
         slot.cloth.active = true;
@@ -303,7 +337,7 @@ void TestClothPreview::paintingWeightsKeepsTheMotion()
 void TestClothPreview::materialThatJoinsStartsAtTheModel()
 {
     Host::Scene scene;
-    Host::Object& object = scene.AddObject(TwoSquares());
+    Host::Object& object = scene.AddObject(PreviewSamples::TwoSquares());
     auto& slots = object.meshes[0].materialSlots;
     slots[0].cloth.active = true;
     ClothPreview preview(Host::MakePreviewModel(object, NoImage));
@@ -393,6 +427,47 @@ void TestClothPreview::problemStopsUntilReset()
     preview.Step();
     QVERIFY(preview.Problem().isEmpty());
     QVERIFY(preview.Time() > 0.0);
+}
+
+void TestClothPreview::strangePlacesStopThePreview_data()
+{
+    QTest::addColumn<float>("place");
+    QTest::addColumn<bool>("inBody");
+    for (const bool inBody : {false, true}) {
+        for (const float place : {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(),
+                                  -std::numeric_limits<float>::infinity(), std::numeric_limits<float>::max(), 1e20F}) {
+            const QString name =
+                QString::number(double(place)) + (inBody ? QStringLiteral(" body") : QStringLiteral(" cloth"));
+            QTest::newRow(qPrintable(name)) << place << inBody;
+        }
+    }
+}
+
+/// Model files hold anything. Whatever it is, the preview comes back: with a reason, or with cloth that is sound.
+void TestClothPreview::strangePlacesStopThePreview()
+{
+    QFETCH(float, place);
+    QFETCH(bool, inBody);
+    Host::ClothValues values;
+    values.collision.rigidMargin = 0.5F;
+    values.collision.selfCollision = true;
+    values.collision.selfMargin = 0.5F;
+    values.property.drag = 0.5F;
+    PreviewModel model =
+        PreviewSamples::WithBody(ClothSamples::LyingSheet(6, 2.0F, 12.0F), ClothSamples::Ball(10.0F), values);
+    model.meshes[inBody ? 1 : 0].positions[5] = {place, 0.0F, 1.0F};
+    for (const MotionKind kind : {MotionKind::Sway, MotionKind::Turn, MotionKind::Walk}) {
+        ClothPreview preview(model);
+        preview.SetMotion({kind, 0, true});
+        PreviewSamples::Run(preview, 0.2);
+        const auto positions = PreviewSamples::Positions(preview);
+        const bool isSound = std::all_of(positions.begin(), positions.end(),
+                                         [](const QVector3D& position) { return position.length() < 1e7F; });
+        QVERIFY(!preview.Problem().isEmpty() || (isSound && inBody));
+        preview.Reset();
+        preview.Step();
+        QVERIFY(!preview.Problem().isEmpty() || inBody);
+    }
 }
 
 void TestClothPreview::emptyModelDoesNothing()
