@@ -87,6 +87,11 @@ void Report::Count(const QString& name, int count, int bound)
     Add(name, QStringLiteral("%1     at most %2").arg(count, 10).arg(bound), count <= bound);
 }
 
+void Report::Note(const QString& name, const QString& figures, bool isWithin)
+{
+    Add(name, figures, isWithin);
+}
+
 void Report::Add(const QString& name, const QString& figures, bool isWithin)
 {
     m_lines.append(

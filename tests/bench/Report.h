@@ -33,6 +33,9 @@ public:
     /// Adds a line with a count that is not to exceed \p bound.
     void Count(const QString& name, int count, int bound);
 
+    /// Adds a line with figures that were measured elsewhere. \param isWithin false when they miss their bound
+    void Note(const QString& name, const QString& figures, bool isWithin = true);
+
     /// Prints the table. \return the exit code of the program: 0, or 1 when a bound was missed
     int Print() const;
 
