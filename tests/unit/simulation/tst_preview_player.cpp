@@ -147,11 +147,12 @@ void TestPreviewPlayer::resetGoesBackAndPlaysOn()
     QTRY_VERIFY_WITH_TIMEOUT(hasGoneBack(), patience);
     QVERIFY(player.State().playing);
     player.Pause();
+    QTRY_VERIFY_WITH_TIMEOUT(!player.State().playing, patience);
     player.Reset();
     QTRY_COMPARE_WITH_TIMEOUT(player.State().time, 0.0, patience);
+    QVERIFY(!player.State().playing);
     PreviewFrame frame;
     QVERIFY(WaitForFrame(player, frame, [](const PreviewFrame& f) { return f.time == 0.0; }));
-    QVERIFY(!player.State().playing);
     QVERIFY(frame.meshes[0].positions == Curtain().meshes[0].positions);
 }
 
