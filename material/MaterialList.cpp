@@ -17,7 +17,6 @@
 #include <QFileInfo>
 #include <QListWidget>
 #include <QPointer>
-#include <QSettings>
 
 #include <algorithm>
 #include <map>
@@ -48,15 +47,14 @@ QString AskForProfile(QWidget* parent)
 using IgnoredNames = std::map<std::wstring, BF::CArrayList<std::wstring>>;
 
 /// The ignored material names of a profile; empty when it has none.
-IgnoredNames ReadIgnoredNames(CIniReader& reader)
+IgnoredNames ReadIgnoredNames(const CIniFile& profile)
 {
-    QSettings& profile = reader.Settings();
-    profile.beginGroup(QStringLiteral("Ignored_Material_Name_List"));
+    const CIniGroup& group = profile.Group(QStringLiteral("Ignored_Material_Name_List"));
     IgnoredNames names;
-    const QStringList keys = profile.allKeys();
+    const QStringList keys = group.Keys();
     for (const QString& key : keys) {
         BF::CArrayList<std::wstring> list;
-        const QStringList values = profile.value(key).toStringList();
+        const QStringList values = group.Value(key).toStringList();
         for (const QString& name : values) {
             list.Add(name.toStdWString());
         }
@@ -298,8 +296,8 @@ void CSoftClothMaterialDlg::OnFilterMaterialList()
         ShowMessage(tr("InValid File Path."));
         return;
     }
-    CIniReader reader(path);
-    if (!reader.IsRead()) {
+    const auto profile = CIniFile::Read(path);
+    if (!profile) {
         ShowMessage(tr("File is Unreadable."));
         return;
     }
@@ -307,7 +305,7 @@ void CSoftClothMaterialDlg::OnFilterMaterialList()
     if (!Selection().object || Selection().objectType != filteredObjectType) {
         return;
     }
-    Edit().SetIgnoredMaterialNames(Selection().object, ReadIgnoredNames(reader));
+    Edit().SetIgnoredMaterialNames(Selection().object, ReadIgnoredNames(*profile));
     if (!self) {
         return;
     }

@@ -10,6 +10,7 @@
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
+#include "ui/IniFile.h"
 #include "ui/WidgetAccess.h"
 
 #include <QCheckBox>
@@ -32,7 +33,7 @@ ProfileGroup GroupOf(const QString& name, const QPointer<CPhysicsSoftClothPlugin
                      Section* (CPhysicsSoftClothPlugin::*section)() const)
 {
     const auto find = [plugin, section]() -> Section* { return plugin ? (plugin.data()->*section)() : nullptr; };
-    const auto load = [find](QSettings& profile) {
+    const auto load = [find](const CIniGroup& profile) {
         if (Section* existing = find()) {
             existing->LoadProfile(profile);
         }
@@ -69,9 +70,9 @@ QString ChooseIniFile(QWidget* parent, QFileDialog::AcceptMode mode, const QStri
 /// The order of the groups is that of loading and of saving.
 std::vector<ProfileGroup> CSoftClothPresetSection::ProfileGroups()
 {
-    const auto load = [this](QSettings& profile) {
+    const auto load = [this](const CIniGroup& profile) {
         const QPointer<CSoftClothPresetSection> self(this);
-        const bool gravity = profile.value(gravityKey).toBool();
+        const bool gravity = profile.Value(gravityKey).toBool();
         // Not silent: a box that changes writes the gravity too.
         SetChecked(m_ui.useWorldGravityCheckBox, gravity);
         return self ? WriteGravity(gravity) : BF::Result(BF::Results::NothingDone);

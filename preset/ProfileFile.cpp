@@ -155,17 +155,14 @@ EProfileProblem LoadProfile(const QString& path, const std::vector<ProfileGroup>
     if (!QFileInfo(path).isFile()) {
         return EProfileProblem::InvalidPath;
     }
-    CIniReader reader(path);
-    if (!reader.IsRead()) {
+    const auto profile = CIniFile::Read(path);
+    if (!profile) {
         return EProfileProblem::Unreadable;
     }
-    QSettings& profile = reader.Settings();
-    const QStringList present = profile.childGroups();
     for (const ProfileGroup& group : groups) {
-        if (present.contains(group.name) && !result.IsFailure()) {
-            profile.beginGroup(group.name);
-            result = group.load(profile);
-            profile.endGroup();
+        const CIniGroup& values = profile->Group(group.name);
+        if (!values.IsEmpty() && !result.IsFailure()) {
+            result = group.load(values);
         }
     }
     return EProfileProblem::None;

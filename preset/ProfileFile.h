@@ -13,12 +13,14 @@ class QSettings;
 /// closed in one go; nothing of it is kept.
 namespace MV {
 
-/// A group of a profile and who handles it. Both functions get the store positioned inside the group.
+class CIniGroup;
+
+/// A group of a profile and who handles it.
 struct ProfileGroup
 {
     QString name;
-    std::function<BF::Result(QSettings&)> load;
-    std::function<void(QSettings&)> save;
+    std::function<BF::Result(const CIniGroup&)> load;
+    std::function<void(QSettings&)> save; ///< Gets the store positioned inside the group.
 };
 
 /// Why a profile was not handled.

@@ -4,6 +4,7 @@
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "sections/ProfileNumbers.h"
 #include "sections/SectionRecord.h"
+#include "ui/IniFile.h"
 #include "ui/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QDoubleSpinBoxEx.h>
@@ -128,13 +129,13 @@ void CSoftClothCollisionSection::Write(ESoftClothCollisionType type, const SoftC
     WriteRecord(m_plugin->Selection(), m_host, &CEditService::SetSoftClothCollision, type, record);
 }
 
-void CSoftClothCollisionSection::LoadProfile(QSettings& profile)
+void CSoftClothCollisionSection::LoadProfile(const CIniGroup& profile)
 {
     SoftClothCollisionData record;
-    record.collideWithRigid = profile.value(rigidKey).toBool();
-    record.rigidMargin = ProfileNumber<float>(profile.value(rigidMarginKey));
-    record.selfCollision = profile.value(selfKey).toBool();
-    record.selfMargin = ProfileNumber<float>(profile.value(selfMarginKey));
+    record.collideWithRigid = profile.Value(rigidKey).toBool();
+    record.rigidMargin = ProfileNumber<float>(profile.Value(rigidMarginKey));
+    record.selfCollision = profile.Value(selfKey).toBool();
+    record.selfMargin = ProfileNumber<float>(profile.Value(selfMarginKey));
 
     SetChecked(m_ui.collideWithRigidCheckBox, record.collideWithRigid);
     ShowValue(m_ui.rigidMarginSpinBox, double(record.rigidMargin));

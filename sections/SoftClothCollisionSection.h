@@ -12,6 +12,7 @@ class QSettings;
 
 namespace MV {
 
+class CIniGroup;
 class CMoviraInterface;
 class CPhysicsSoftClothPlugin;
 enum class ESoftClothCollisionType;
@@ -36,9 +37,9 @@ public:
     /// \return 0; 1 when there is no active soft cloth to show; or the host's failure
     BF::Result UpdateUi();
 
-    /// Shows and writes the values of a profile, which must be positioned in the collision group. A missing key
-    /// counts as false or 0.
-    void LoadProfile(QSettings& profile);
+    /// Shows and writes the values of a profile's collision group. A missing key counts as
+    /// false or 0.
+    void LoadProfile(const CIniGroup& profile);
     /// Writes what the widgets show into the profile's current group.
     void SaveProfile(QSettings& profile) const;
 

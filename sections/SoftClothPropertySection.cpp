@@ -5,6 +5,7 @@
 #include "sections/ProfileNumbers.h"
 #include "sections/SectionRecord.h"
 #include "sections/SoftClothConversions.h"
+#include "ui/IniFile.h"
 #include "ui/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QComboSpinBox.h>
@@ -134,23 +135,23 @@ void CSoftClothPropertySection::Write(Type type, const Record& record)
     WriteRecord(m_plugin->Selection(), m_host, &CEditService::SetSoftClothProperty, type, record);
 }
 
-void CSoftClothPropertySection::LoadProfile(QSettings& profile)
+void CSoftClothPropertySection::LoadProfile(const CIniGroup& profile)
 {
     Record record;
     ForEachField([&](QLatin1String key, auto box, auto field, Type /*type*/, auto conversion) {
-        const auto value = ProfileNumber<typename decltype(conversion)::Profile>(profile.value(key));
+        const auto value = ProfileNumber<typename decltype(conversion)::Profile>(profile.Value(key));
         record.*field = conversion.ToHost(value);
         ShowValue(m_ui.*box, static_cast<decltype(ValueOf(m_ui.*box))>(value));
     });
     for (const ProfileField& scale : inertiaScales) {
-        record.*scale.field = Tenths::ToHost(ProfileNumber<float>(profile.value(scale.key)));
+        record.*scale.field = Tenths::ToHost(ProfileNumber<float>(profile.Value(scale.key)));
     }
     // The one that has the box counts as a whole number there.
-    const int linear = profile.value(inertiaScales.front().key).toInt();
+    const int linear = profile.Value(inertiaScales.front().key).toInt();
     record.linearInertiaScale = Tenths::ToHost(linear);
     ShowValue(m_ui.inertiaScaleSpinBox, linear);
     for (const ProfileField& other : fieldsWithoutBox) {
-        record.*other.field = ProfileNumber<float>(profile.value(other.key));
+        record.*other.field = ProfileNumber<float>(profile.Value(other.key));
     }
     Write(Type::All, record);
 }

@@ -12,6 +12,7 @@ class QSettings;
 
 namespace MV {
 
+class CIniGroup;
 class CMoviraInterface;
 class CPhysicsSoftClothPlugin;
 enum class ESoftClothPropertyType;
@@ -38,9 +39,9 @@ public:
     /// Enables or disables everything below the expand button.
     void EnableUi(bool enable);
 
-    /// Shows and writes the values of a profile, which must be positioned in the property group. A missing key counts
+    /// Shows and writes the values of a profile's property group. A missing key counts
     /// as 0. The host gets the values as they are in the file, the boxes bring them into their ranges.
-    void LoadProfile(QSettings& profile);
+    void LoadProfile(const CIniGroup& profile);
     /// Writes what the boxes show into the profile's current group, and what the host holds of the fields that have
     /// no box of their own.
     void SaveProfile(QSettings& profile) const;

@@ -7,6 +7,7 @@
 #include "sections/SectionRecord.h"
 #include "sections/SliderKeys.h"
 #include "sections/SoftClothConversions.h"
+#include "ui/IniFile.h"
 #include "ui/WidgetAccess.h"
 
 #include <BFQtCustomWidgetPluginU/QComboDoubleSpinBox.h>
@@ -82,9 +83,9 @@ void ShowAcceleration(const Axes& boxes, const std::array<float, 3>& acceleratio
 }
 
 /// A profile holds a single element without a list around it.
-QVariantList ReadList(const QSettings& profile, const QString& key)
+QVariantList ReadList(const CIniGroup& profile, const QString& key)
 {
-    const QVariant value = profile.value(key);
+    const QVariant value = profile.Value(key);
     const QVariantList list = value.toList();
     return list.isEmpty() && value.isValid() ? QVariantList{value} : list;
 }
@@ -297,12 +298,12 @@ void CSoftClothWindSection::Write(Type type, const Record& record)
     WriteRecord(m_plugin->Selection(), m_host, &CEditService::SetSoftClothWind, type, record);
 }
 
-void CSoftClothWindSection::LoadProfile(QSettings& profile)
+void CSoftClothWindSection::LoadProfile(const CIniGroup& profile)
 {
     Record record;
     record.externalAcceleration = LoadAcceleration(ReadList(profile, externalKey), ExternalBoxes());
     record.randomAcceleration = LoadAcceleration(ReadList(profile, randomKey), RandomBoxes());
-    record.frequency = ProfileNumber<float>(profile.value(frequencyKey));
+    record.frequency = ProfileNumber<float>(profile.Value(frequencyKey));
     ShowValue(m_ui.frequencySpinBox, Decimal::ToBox(record.frequency));
     const QVariantList factor = ReadList(profile, factorKey);
     record.randomFactor = ToFloats<2>(factor);

@@ -17,6 +17,7 @@ class QSettings;
 
 namespace MV {
 
+class CIniGroup;
 class CMoviraInterface;
 class CMultiLevelSlider;
 class CPhysicsSoftClothPlugin;
@@ -44,9 +45,9 @@ public:
     /// \return 0; 1 when there is no active soft cloth to show; or the host's failure
     BF::Result UpdateUi();
 
-    /// Shows and writes the values of a profile, which must be positioned in the wind group. A missing key or list
-    /// element counts as 0. The host gets the values as they are in the file, the widgets bring them into their ranges.
-    void LoadProfile(QSettings& profile);
+    /// Shows and writes the values of a profile's wind group. A missing key or list element counts as 0. The
+    /// host gets the values as they are in the file, the widgets bring them into their ranges.
+    void LoadProfile(const CIniGroup& profile);
     /// Writes what the widgets show into the profile's current group.
     void SaveProfile(QSettings& profile) const;
 

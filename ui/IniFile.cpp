@@ -1,92 +1,105 @@
 #include "ui/IniFile.h"
 
-#include "ui/IniText.h"
+#include "ui/IniLines.h"
+#include "ui/IniValue.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
-#include <QTemporaryFile>
+#include <QFile>
 
-#ifdef Q_OS_LINUX
-#include <sys/mman.h>
-#endif
+#include <algorithm>
+#include <vector>
 
 namespace MV {
+
+namespace {
+
+/// Lines of a file under the name that their keys begin with.
+struct Section
+{
+    QString prefix;
+    std::vector<CIniLines> lines;
+};
+
+QString PrefixOf(const QByteArray& ini, const CIniLines& header)
+{
+    const QByteArray line = ini.mid(header.Begin() + 1, header.End() - header.Begin() - 1);
+    const int bracket = line.indexOf(']');
+    const QByteArray name = (bracket < 0 ? line : line.left(bracket)).trimmed();
+    if (name.compare("general", Qt::CaseInsensitive) == 0) {
+        return {};
+    }
+    if (name.compare("%general", Qt::CaseInsensitive) == 0) {
+        return QString::fromLatin1(name.mid(1)) + QLatin1Char('/');
+    }
+    return IniKey(name.cbegin(), name.cend()) + QLatin1Char('/');
+}
+
+/// The lines of a file that hold values, by the names of their sections.
+std::vector<Section> SectionsOf(const QByteArray& ini)
+{
+    std::vector<Section> sections(1);
+    for (CIniLines line(ini); line.Next();) {
+        if (line.IsHeader()) {
+            sections.push_back({PrefixOf(ini, line), {}});
+        } else if (line.HasValue()) {
+            sections.back().lines.push_back(line);
+        }
+    }
+    // Sections can hold the same key, by its whole name. Which of them counts does not depend on their order in the
+    // file.
+    std::stable_sort(sections.begin(), sections.end(),
+                     [](const Section& a, const Section& b) { return a.prefix < b.prefix; });
+    return sections;
+}
+
+} // namespace
 
 std::optional<QByteArray> ReadIniText(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > largestIniFile) {
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.size() > largestIniFile) {
         return std::nullopt;
     }
     return file.readAll();
 }
 
-namespace {
-
-bool WriteOut(QFile& file, const QByteArray& text)
+CIniFile::CIniFile(const QByteArray& ini)
 {
-    return file.write(text) == text.size() && file.flush();
-}
-
-/// A file in memory that holds \p text; none where the system has no such thing.
-std::unique_ptr<QFile> MemoryFile(const QByteArray& text)
-{
-#ifdef Q_OS_LINUX
-    const int descriptor = memfd_create("ini", MFD_CLOEXEC);
-    auto file = std::make_unique<QFile>();
-    if (descriptor < 0 || !file->open(descriptor, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle) ||
-        !WriteOut(*file, text)) {
-        return nullptr;
-    }
-    // QSettings may know another file under this name, of equal size. No two have the same time.
-    static qint64 second = 0;
-    const QDateTime time = QDateTime::fromSecsSinceEpoch(++second, Qt::UTC);
-    const QString name = QStringLiteral("/proc/self/fd/%1").arg(descriptor);
-    if (!file->setFileTime(time, QFileDevice::FileModificationTime) || !QFileInfo::exists(name)) {
-        return nullptr;
-    }
-    file->setObjectName(name);
-    return file;
-#else
-    Q_UNUSED(text)
-    return nullptr;
-#endif
-}
-
-/// A file with \p text in \p folder, which is removed with the object; none when there is no place or no room.
-std::unique_ptr<QFile> TemporaryFile(const QByteArray& text, const QString& folder)
-{
-    auto file = std::make_unique<QTemporaryFile>(folder + QLatin1String("/softcloth-profile-XXXXXX.ini"));
-    if (!file->open() || !WriteOut(*file, text)) {
-        return nullptr;
-    }
-    file->setObjectName(file->fileName());
-    return file;
-}
-
-} // namespace
-
-CIniReader::CIniReader(const QString& path)
-{
-    const auto text = ReadIniText(path);
-    if (!text) {
-        return;
-    }
-    const QByteArray harmless = HarmlessForReading(*text);
-    m_copy = MemoryFile(harmless);
-    // The file's own folder serves where there is no other place, or no room in it.
-    for (const QString& folder : {QDir::tempPath(), QFileInfo(path).absolutePath()}) {
-        if (!m_copy) {
-            m_copy = TemporaryFile(harmless, folder);
+    const std::vector<Section> sections = SectionsOf(ini);
+    for (const Section& section : sections) {
+        for (const CIniLines& line : section.lines) {
+            const char* const text = ini.constData();
+            const char* keyEnd = text + line.KeyEnd();
+            while (keyEnd > text + line.Begin() && IsIniBlank(keyEnd[-1])) {
+                --keyEnd;
+            }
+            Insert(section.prefix + IniKey(text + line.Begin(), keyEnd),
+                   IniValue(text + line.ValueBegin(), text + line.End()));
         }
     }
-    if (m_copy) {
-        m_settings = std::make_unique<QSettings>(m_copy->objectName(), QSettings::IniFormat);
-        m_settings->setIniCodec("UTF-8");
-    }
 }
 
-CIniReader::~CIniReader() = default;
+std::optional<CIniFile> CIniFile::Read(const QString& path)
+{
+    const auto text = ReadIniText(path);
+    return text ? std::make_optional<CIniFile>(*text) : std::nullopt;
+}
+
+const CIniGroup& CIniFile::Group(const QString& name) const
+{
+    static const CIniGroup none;
+    const auto found = m_groups.constFind(name);
+    return found == m_groups.cend() ? none : *found;
+}
+
+/// A key can name a group itself, by a slash in it.
+void CIniFile::Insert(const QString& path, const QVariant& value)
+{
+    const int slash = path.indexOf(QLatin1Char('/'));
+    if (slash < 0) {
+        m_groups[QString()].Insert(path, value);
+    } else if (slash > 0) {
+        m_groups[path.left(slash)].Insert(path.mid(slash + 1), value);
+    }
+}
 
 } // namespace MV

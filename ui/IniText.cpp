@@ -1,108 +1,10 @@
 #include "ui/IniText.h"
 
-#include <functional>
-#include <optional>
+#include "ui/IniLines.h"
 
 namespace MV {
 
 namespace {
-
-constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
-
-bool IsBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
-bool IsLineEnd(char c)
-{
-    return c == '\n' || c == '\r';
-}
-
-bool IsByteOrderMark(const QByteArray& text, int position)
-{
-    return qstrncmp(text.constData() + position, byteOrderMark, 3) == 0;
-}
-
-/// Goes through a file line by line as QSettings does: quotes and a backslash carry a line on over its end, a semicolon
-/// outside of quotes ends it.
-class CLines
-{
-public:
-    explicit CLines(const QByteArray& ini)
-        : m_ini(ini)
-        , m_position(IsByteOrderMark(ini, 0) ? 3 : 0)
-    {
-    }
-
-    /// Finds the next line that has an equals sign. \return false at the end
-    bool Next()
-    {
-        while (m_position < m_ini.size()) {
-            SkipToLine();
-            const int start = m_position;
-            ReadLine();
-            if (m_equals >= 0 && m_ini.at(start) != '[') {
-                return true;
-            }
-        }
-        return false;
-    }
-
-    int ValueBegin() const { return m_equals + 1; }
-    int ValueEnd() const { return m_position; }
-
-private:
-    void SkipToLine()
-    {
-        while (m_position < m_ini.size()) {
-            const char c = m_ini.at(m_position);
-            if (c == ';') {
-                while (m_position < m_ini.size() && !IsLineEnd(m_ini.at(m_position))) {
-                    ++m_position;
-                }
-            } else if (IsBlank(c) || IsLineEnd(c)) {
-                ++m_position;
-            } else {
-                return;
-            }
-        }
-    }
-
-    void ReadLine()
-    {
-        m_equals = -1;
-        bool isQuoted = false;
-        for (; m_position < m_ini.size(); ++m_position) {
-            const char c = m_ini.at(m_position);
-            if (c == '\\') {
-                SkipEscaped();
-            } else if (c == '"') {
-                isQuoted = !isQuoted;
-            } else if (c == '=' && !isQuoted && m_equals < 0) {
-                m_equals = m_position;
-            } else if (!isQuoted && (IsLineEnd(c) || c == ';')) {
-                return;
-            }
-        }
-    }
-
-    /// Leaves the position at the last character that the backslash covers; a line end may have two.
-    void SkipEscaped()
-    {
-        if (++m_position + 1 < m_ini.size()) {
-            const char c = m_ini.at(m_position);
-            const char next = m_ini.at(m_position + 1);
-            if (IsLineEnd(c) && IsLineEnd(next) && c != next) {
-                ++m_position;
-            }
-        }
-    }
-
-    const QByteArray& m_ini;
-    int m_position;
-    int m_equals = -1;
-};
 
 int DigitOf(char c)
 {
@@ -132,66 +34,36 @@ bool HasEscapedAt(const QByteArray& value)
     return false;
 }
 
-/// The value with "@" doubled where it begins an element. There are no escape sequences in it.
-QByteArray WithDoubledAts(const QByteArray& value)
+/// Whether an element begins with "@". There are no escape sequences in the value.
+bool HasLeadingAt(const QByteArray& value)
 {
-    QByteArray result;
     bool isQuoted = false;
     bool isBeginning = true;
     for (int i = 0; i < value.size(); ++i) {
         const char c = value.at(i);
         if (isBeginning && IsByteOrderMark(value, i)) {
-            result += byteOrderMark;
-            i += 2;
-            continue;
-        }
-        if (c == '"') {
+            i += byteOrderMarkSize - 1;
+        } else if (c == '"') {
             isQuoted = !isQuoted;
         } else if (c == ',' && !isQuoted) {
             isBeginning = true;
-        } else if (isBeginning && !(IsBlank(c) && !isQuoted)) {
+        } else if (isBeginning && (isQuoted || !IsIniBlank(c))) {
             if (c == '@') {
-                result += '@';
+                return true;
             }
             isBeginning = false;
         }
-        result += c;
     }
-    return result;
+    return false;
 }
 
-/// A harmless text in place of \p value; none when it is harmless as it is.
-std::optional<QByteArray> HarmlessValue(const QByteArray& value)
+/// Whether QSettings might see an object in \p value, or writes it otherwise than it was.
+bool MayBeObject(const QByteArray& value)
 {
-    const bool hasEscapes = value.contains('\\');
-    if (hasEscapes) {
-        return value.contains('@') || HasEscapedAt(value) ? std::make_optional(QByteArray()) : std::nullopt;
+    if (value.contains('\\')) {
+        return value.contains('@') || HasEscapedAt(value);
     }
-    if (!value.contains('@')) {
-        return std::nullopt;
-    }
-    const QByteArray doubled = WithDoubledAts(value);
-    return doubled == value ? std::nullopt : std::make_optional(doubled);
-}
-
-/// The file with what \p replace makes of each value that is not harmless.
-/// \param replace  gets the value and its harmless text
-QByteArray WithValues(const QByteArray& ini,
-                      const std::function<QByteArray(const QByteArray&, const QByteArray&)>& replace)
-{
-    if (!ini.contains('@') && !ini.contains('\\')) {
-        return ini;
-    }
-    QByteArray result;
-    int copied = 0;
-    for (CLines lines(ini); lines.Next();) {
-        const QByteArray value = ini.mid(lines.ValueBegin(), lines.ValueEnd() - lines.ValueBegin());
-        if (const auto harmless = HarmlessValue(value)) {
-            result += ini.mid(copied, lines.ValueBegin() - copied) + replace(value, *harmless);
-            copied = lines.ValueEnd();
-        }
-    }
-    return result + ini.mid(copied);
+    return value.contains('@') && HasLeadingAt(value);
 }
 
 /// The value so that it ends at its end: at the end of a file, it can lack a quote or what a backslash covers.
@@ -224,20 +96,26 @@ QByteArray UnusedWord(const QByteArray& ini)
 
 } // namespace
 
-QByteArray HarmlessForReading(const QByteArray& ini)
-{
-    return WithValues(ini, [](const QByteArray& /*value*/, const QByteArray& harmless) { return harmless; });
-}
-
 CShelteredIni::CShelteredIni(const QByteArray& ini)
+    : m_content(ini)
 {
+    if (!ini.contains('@') && !ini.contains('\\')) {
+        return;
+    }
     const QByteArray beginning = UnusedWord(ini);
-    m_content = WithValues(ini, [&](const QByteArray& value, const QByteArray& /*harmless*/) {
-        // The letter behind the number keeps one word from being the beginning of another.
-        const QByteArray word = beginning + QByteArray::number(m_kept.size()) + 'e';
-        m_kept.append({word, Completed(value)});
-        return word;
-    });
+    m_content.clear();
+    int copied = 0;
+    for (CIniLines line(ini); line.Next();) {
+        const QByteArray value = line.HasValue() ? ini.mid(line.ValueBegin(), line.End() - line.ValueBegin()) : "";
+        if (MayBeObject(value)) {
+            // The letter behind the number keeps one word from being the beginning of another.
+            const QByteArray word = beginning + QByteArray::number(m_kept.size()) + 'e';
+            m_kept.append({word, Completed(value)});
+            m_content += ini.mid(copied, line.ValueBegin() - copied) + word;
+            copied = line.End();
+        }
+    }
+    m_content += ini.mid(copied);
 }
 
 QByteArray CShelteredIni::Restored(QByteArray written) const

@@ -3,19 +3,13 @@
 #include <QByteArray>
 #include <QVector>
 
-/// INI files that come from anywhere, made safe for QSettings.
-///
-/// QSettings takes a value that begins with "@" for an object and unpacks it with sizes from the file, which a damaged
-/// or hostile file can use to crash the application. No value of ours is such an object. Here such values become plain
-/// texts before QSettings reads the file.
 namespace MV {
 
-/// The text of an INI file with every value being a text: "@" at the beginning of an element is doubled, which
-/// QSettings reads as the text "@". A value whose beginning depends on escape sequences becomes empty.
-QByteArray HarmlessForReading(const QByteArray& ini);
-
-/// An INI file in which each value that HarmlessForReading() would change is replaced by a word of its own, so that
-/// QSettings can write the file again. Restored() puts the original texts back, byte for byte.
+/// An INI file that comes from anywhere, made safe for QSettings to write it again.
+///
+/// QSettings takes a value that begins with "@" for an object and unpacks it with sizes from the file, which a damaged
+/// or hostile file can use to crash the application. No value of ours is such an object. Here each value that might be
+/// one is replaced by a word of its own; Restored() puts the original texts back, byte for byte.
 class CShelteredIni
 {
 public:

@@ -4,7 +4,6 @@
 #include "ui/IniFile.h"
 
 #include <QFileInfo>
-#include <QSettings>
 #include <QStringList>
 #include <QVariant>
 
@@ -40,31 +39,23 @@ void Convert(const QVariant& from, std::array<float, size>& to)
     }
 }
 
-/// Collects a change for each field of the record \p part of a cloth that \p file holds in its current group.
+/// Collects a change for each field of the record \p part of a cloth that \p group holds.
 template <class Record>
-void CollectFields(const QSettings& file, Record ClothState::*part, std::vector<ClothChange>& changes)
+void CollectFields(const MV::CIniGroup& group, Record ClothState::*part, std::vector<ClothChange>& changes)
 {
     const auto collect = [&](const auto& field) {
-        if (!file.contains(QLatin1String(field.name))) {
+        if (!group.Contains(QLatin1String(field.name))) {
             return;
         }
         using Value = std::decay_t<decltype(std::declval<Record>().*field.member)>;
         // What is left of the padding of a record is no setting.
         if constexpr (!std::is_same_v<Value, decltype(MV::SoftClothPropertyData::reserved)>) {
             Value value{};
-            Convert(file.value(QLatin1String(field.name)), value);
+            Convert(group.Value(QLatin1String(field.name)), value);
             changes.push_back([part, member = field.member, value](ClothState& cloth) { cloth.*part.*member = value; });
         }
     };
     std::apply([&](const auto&... fields) { (collect(fields), ...); }, FieldsOf(Record()));
-}
-
-template <class Record>
-void CollectGroup(QSettings& file, const char* group, Record ClothState::*part, std::vector<ClothChange>& changes)
-{
-    file.beginGroup(QLatin1String(group));
-    CollectFields(file, part, changes);
-    file.endGroup();
 }
 
 } // namespace
@@ -74,19 +65,19 @@ std::optional<ClothChange> ReadSoftIni(const QString& path)
     if (!QFileInfo(path).isFile()) {
         return std::nullopt;
     }
-    MV::CIniReader reader(path);
-    if (!reader.IsRead()) {
+    const auto file = MV::CIniFile::Read(path);
+    if (!file) {
         return std::nullopt;
     }
-    QSettings& file = reader.Settings();
     std::vector<ClothChange> changes;
+    const MV::CIniGroup& top = file->Group({});
     const QString gravity = QStringLiteral("useGlobalGravity");
-    if (file.contains(gravity)) {
-        changes.push_back([use = file.value(gravity).toBool()](ClothState& cloth) { cloth.useGlobalGravity = use; });
+    if (top.Contains(gravity)) {
+        changes.push_back([use = top.Value(gravity).toBool()](ClothState& cloth) { cloth.useGlobalGravity = use; });
     }
-    CollectGroup(file, "property", &ClothState::property, changes);
-    CollectGroup(file, "collision", &ClothState::collision, changes);
-    CollectGroup(file, "wind", &ClothState::wind, changes);
+    CollectFields(file->Group(QStringLiteral("property")), &ClothState::property, changes);
+    CollectFields(file->Group(QStringLiteral("collision")), &ClothState::collision, changes);
+    CollectFields(file->Group(QStringLiteral("wind")), &ClothState::wind, changes);
     if (changes.empty()) {
         return std::nullopt;
     }

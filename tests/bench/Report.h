@@ -22,8 +22,9 @@ class Report
 public:
     explicit Report(const QString& subject);
 
-    /// Runs both works by turns, \p repetitions times each, and adds a line with their medians and the ratio of these,
-    /// which is not to exceed \p bound; without one it is only printed.
+    /// Runs both works by turns, \p repetitions times each, and adds a line with the shortest time of each, which other
+    /// programs have disturbed least, and the ratio of these, which is not to exceed \p bound; without one it is only
+    /// printed.
     void Compare(const QString& name, const Work& product, const Work& bare, std::optional<double> bound,
                  int repetitions = 11);
 

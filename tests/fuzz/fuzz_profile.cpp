@@ -3,6 +3,7 @@
 
 #include "host/services/SoftIniProfile.h"
 #include "preset/ProfileFile.h"
+#include "ui/IniFile.h"
 
 #include <QFile>
 #include <QSettings>
@@ -10,11 +11,11 @@
 namespace {
 
 /// Reads everything in a group in every way that the panel reads values.
-BF::Result ReadGroup(QSettings& profile)
+BF::Result ReadGroup(const MV::CIniGroup& profile)
 {
-    const QStringList keys = profile.allKeys();
+    const QStringList keys = profile.Keys();
     for (const QString& key : keys) {
-        const QVariant value = profile.value(key);
+        const QVariant value = profile.Value(key);
         value.toBool();
         value.toInt();
         value.toUInt();
@@ -56,8 +57,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     if (MV::SaveProfile(path, Groups()) == MV::EProfileProblem::None) {
         int mass = 0;
-        const auto read = [&mass](QSettings& profile) {
-            mass = profile.value(QStringLiteral("Mass")).toInt();
+        const auto read = [&mass](const MV::CIniGroup& profile) {
+            mass = profile.Value(QStringLiteral("Mass")).toInt();
             return BF::Result(BF::Results::Success);
         };
         MV::LoadProfile(path, {{QStringLiteral("Property"), read, {}}}, result);

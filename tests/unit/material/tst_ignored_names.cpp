@@ -163,6 +163,8 @@ void TestIgnoredNames::namesAreReadAndSet_data()
         QStringLiteral("{\"Body\": [\"\u5e03\", \"\u00e9toffe\"]}"));
     row("names with commas", "[Ignored_Material_Name_List]\nBody=\"Skin, wet\", Hair\n",
         QStringLiteral(R"({"Body": ["Skin, wet", "Hair"]})"));
+    row("names with backslashes and at signs", "[Ignored_Material_Name_List]\nBody=a\\\\@b, @@c, \"\\\\@\"\n",
+        QStringLiteral(R"({"Body": ["a\@b", "@c", "\@"]})"));
 }
 
 void TestIgnoredNames::namesAreReadAndSet()

@@ -10,8 +10,8 @@ std::vector<MV::ProfileGroup> NotedGroups::Make(const QString& failing)
     for (const char* name : {"Preset", "Property", "Collision", "Wind_Setting"}) {
         const QString group = QString::fromLatin1(name);
         groups.push_back({group,
-                          [this, group, failing](QSettings& profile) {
-                              m_handled.append(profile.group());
+                          [this, group, failing](const MV::CIniGroup& /*profile*/) {
+                              m_handled.append(group);
                               return group == failing ? BF::Results::Refused : BF::Results::Success;
                           },
                           [this, group](QSettings& profile) {

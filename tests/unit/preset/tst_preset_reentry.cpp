@@ -4,6 +4,7 @@
 #include "sections/SoftClothWindSection.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/preset/PresetFixture.h"
+#include "ui/IniFile.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>
@@ -251,9 +252,9 @@ void TestPresetReentry::sectionsWithoutAHostDoNothing()
     MV::CSoftClothPropertySection property(&plugin);
     MV::CSoftClothCollisionSection collision(&plugin);
     MV::CSoftClothWindSection wind(&plugin);
-    property.LoadProfile(profile);
-    collision.LoadProfile(profile);
-    wind.LoadProfile(profile);
+    property.LoadProfile(MV::CIniGroup());
+    collision.LoadProfile(MV::CIniGroup());
+    wind.LoadProfile(MV::CIniGroup());
     property.SaveProfile(profile);
     QVERIFY(profile.allKeys().isEmpty());
 }

@@ -3,11 +3,11 @@
 #include "tests/support/TestCase.h"
 #include "tests/unit/preset/MissingTemporaryFolder.h"
 #include "tests/unit/preset/NotedGroups.h"
+#include "ui/IniFile.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 #include <QTemporaryDir>
 
 #ifdef Q_OS_UNIX
@@ -27,7 +27,7 @@ private Q_SLOTS:
     void groupsAreLoadedInFixedOrder_data();
     void groupsAreLoadedInFixedOrder();
     void loadingEndsAtTheFirstFailure();
-    void storeStandsInsideTheGroup();
+    void valuesAreThoseOfTheGroup();
     void textIsUtf8_data();
     void textIsUtf8();
     void whatIsNoFileIsAnInvalidPath_data();
@@ -113,12 +113,12 @@ void TestProfileFile::loadingEndsAtTheFirstFailure()
     QCOMPARE(m_groups.Take(), (QStringList{QStringLiteral("Preset"), QStringLiteral("Property")}));
 }
 
-void TestProfileFile::storeStandsInsideTheGroup()
+void TestProfileFile::valuesAreThoseOfTheGroup()
 {
     QVariant value;
     const std::vector<MV::ProfileGroup> groups{{QStringLiteral("Property"),
-                                                [&value](QSettings& profile) {
-                                                    value = profile.value(QStringLiteral("Mass"));
+                                                [&value](const MV::CIniGroup& profile) {
+                                                    value = profile.Value(QStringLiteral("Mass"));
                                                     return BF::Result(BF::Results::Success);
                                                 },
                                                 {}}};
@@ -146,8 +146,8 @@ void TestProfileFile::textIsUtf8()
     QFETCH(const QString, value);
     QString read;
     const std::vector<MV::ProfileGroup> groups{{QStringLiteral("Property"),
-                                                [&read](QSettings& profile) {
-                                                    read = profile.value(QStringLiteral("name")).toString();
+                                                [&read](const MV::CIniGroup& profile) {
+                                                    read = profile.Value(QStringLiteral("name")).toString();
                                                     return BF::Result(BF::Results::Success);
                                                 },
                                                 {}}};
@@ -209,8 +209,8 @@ void TestProfileFile::changeOfEqualSizeAndTimeIsSeen()
     const QDateTime time = QDateTime::currentDateTime().addDays(-1);
     QStringList values;
     const std::vector<MV::ProfileGroup> groups{{QStringLiteral("Property"),
-                                                [&values](QSettings& profile) {
-                                                    values.append(profile.value(QStringLiteral("a")).toString());
+                                                [&values](const MV::CIniGroup& profile) {
+                                                    values.append(profile.Value(QStringLiteral("a")).toString());
                                                     return BF::Result(BF::Results::Success);
                                                 },
                                                 {}}};
@@ -268,16 +268,16 @@ void TestProfileFile::objectsInAFileAreNotUnpacked_data()
 void TestProfileFile::objectsInAFileAreNotUnpacked()
 {
     QFETCH(const QByteArray, content);
-    QStringList values;
+    QVector<int> values;
     const std::vector<MV::ProfileGroup> groups{{QStringLiteral("Property"),
-                                                [&values](QSettings& profile) {
-                                                    values.append(profile.value(QStringLiteral("Mass")).toString());
+                                                [&values](const MV::CIniGroup& profile) {
+                                                    values.append(profile.Value(QStringLiteral("Mass")).toInt());
                                                     return BF::Result(BF::Results::Success);
                                                 },
                                                 {}}};
     const QString path = Files::Write(Path("a.ini"), content + "[Property]\nb=1\n");
     QCOMPARE(MV::LoadProfile(path, groups, m_result), EProfileProblem::None);
-    QCOMPARE(values, QStringList{QString()});
+    QCOMPARE(values, QVector<int>{0});
 }
 
 void TestProfileFile::loadingWritesNothing()

@@ -108,6 +108,14 @@ std::unique_ptr<QSettings> SectionFixture::Profile(const char* group, const QStr
     return profile;
 }
 
+MV::CIniGroup SectionFixture::Read(QSettings& profile)
+{
+    profile.sync();
+    // Without a key there is no file.
+    const auto file = MV::CIniFile::Read(profile.fileName());
+    return file ? file->Group(profile.group()) : MV::CIniGroup();
+}
+
 QStringList SectionFixture::Lines(const QString& path)
 {
     QFile file(path);

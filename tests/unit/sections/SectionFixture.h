@@ -4,6 +4,7 @@
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "tests/support/HostCalls.h"
 #include "tests/support/Typing.h"
+#include "ui/IniFile.h"
 
 #include <QByteArray>
 #include <QSettings>
@@ -58,6 +59,8 @@ public:
 
     /// A profile that holds \p lines, each "key=value", in \p group; opened and positioned there.
     std::unique_ptr<QSettings> Profile(const char* group, const QStringList& lines);
+    /// What is in the group of \p profile that it is positioned in, read from its file.
+    static MV::CIniGroup Read(QSettings& profile);
     /// What \p section saves into \p group: the lines of the file.
     template <class Section>
     QStringList Saved(const Section& section, const char* group)
@@ -71,7 +74,7 @@ public:
     template <class Section>
     void Load(Section& section, const char* group, const QStringList& lines)
     {
-        section.LoadProfile(*Profile(group, lines));
+        section.LoadProfile(Read(*Profile(group, lines)));
     }
 
     Host::HostApplication host;

@@ -342,10 +342,11 @@ void TestPropertyProfile::everyWholeBoxValueComesBack()
     Section& section = fixture.Make<Section>();
     auto* widget = Child<QWidget>(&section, box);
     const std::unique_ptr<QSettings> profile = fixture.Profile(group, {});
-    const QVector<int> values = Sample(widget->property("minimum").toInt(), widget->property("maximum").toInt());
-    for (const int value : values) {
-        profile->setValue(QLatin1String(key), value);
-        section.LoadProfile(*profile);
+    const QVector<int> sample = Sample(widget->property("minimum").toInt(), widget->property("maximum").toInt());
+    for (const int value : sample) {
+        MV::CIniGroup values;
+        values.Insert(QLatin1String(key), QString::number(value));
+        section.LoadProfile(values);
         QCOMPARE(section.UpdateUi(), BF::Results::Success);
         QCOMPARE(Shown(widget).toInt(), value);
         section.SaveProfile(*profile);

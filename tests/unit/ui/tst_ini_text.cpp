@@ -1,19 +1,13 @@
 #include "tests/support/TestCase.h"
+#include "tests/unit/ui/IniSamples.h"
 #include "ui/IniText.h"
 
-#include <QFile>
-#include <QRandomGenerator>
-#include <QSettings>
-#include <QTemporaryDir>
-
-/// Values that QSettings would unpack become texts, and everything else stays as it is.
+/// Values that QSettings would unpack become words without harm, and everything else stays as it is.
 class TestIniText : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void readingGivesTheText_data();
-    void readingGivesTheText();
     void valueBeginsWhereQSettingsSeesIt_data();
     void valueBeginsWhereQSettingsSeesIt();
     void nothingIsUnpackedFromAnyText();
@@ -26,32 +20,10 @@ private Q_SLOTS:
 
 namespace {
 
-/// What QSettings reads of all keys but the empty one, which it does not look up.
-QVariantMap ReadAllBack(const QByteArray& ini)
-{
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("a.ini")));
-    if (!file.open(QIODevice::WriteOnly)) {
-        qFatal("no file for the test");
-    }
-    file.write(ini);
-    file.close();
-    QSettings settings(file.fileName(), QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
-    QVariantMap values;
-    const QStringList keys = settings.allKeys();
-    for (const QString& key : keys) {
-        if (!key.isEmpty()) {
-            values.insert(key, settings.value(key));
-        }
-    }
-    return values;
-}
-
 /// What QSettings reads of the key "a" in the group "g".
 QVariant ReadBack(const QByteArray& ini)
 {
-    return ReadAllBack(ini).value(QStringLiteral("g/a"));
+    return IniSamples::ReadBySettings(ini).value(QStringLiteral("g/a"));
 }
 
 /// The keys whose values are neither texts nor lists of texts.
@@ -70,113 +42,37 @@ QStringList Unpacked(const QVariantMap& values)
     return keys;
 }
 
-/// A short file made of what means something to QSettings, with objects that are harmless to unpack.
-QByteArray RandomIni(QRandomGenerator& random)
-{
-    static const QVector<QByteArray> pieces{"@Rect(1 2 3 4)",
-                                            "@Size(1 2)",
-                                            "@",
-                                            "@@",
-                                            "\\x40",
-                                            "\\100",
-                                            "\\x40Rect(1 2 3 4)",
-                                            "\\x10040Rect(1 2 3 4)",
-                                            "\"",
-                                            "\"",
-                                            "\\",
-                                            "\\\\",
-                                            "\\\"",
-                                            ",",
-                                            ",",
-                                            " ",
-                                            "\t",
-                                            "\v",
-                                            "\f",
-                                            "\n",
-                                            "\n",
-                                            "\r\n",
-                                            "\r",
-                                            "\\\n",
-                                            ";",
-                                            "=",
-                                            "=",
-                                            "[",
-                                            "]",
-                                            "[g]\n",
-                                            "\nb=",
-                                            "a",
-                                            "0",
-                                            ")",
-                                            "\xEF\xBB\xBF",
-                                            "\xC3",
-                                            "%",
-                                            "/"};
-    QByteArray ini = random.bounded(2) == 0 ? "[g]\na=" : "";
-    for (int i = 1 + random.bounded(14); i > 0; --i) {
-        ini += pieces.at(random.bounded(pieces.size()));
-    }
-    return ini;
-}
-
 struct Row
 {
     const char* name;
     QByteArray value;
-    QStringList read;
 };
 
-QVector<Row> Rows()
-{
-    const QString variant = QStringLiteral("@Variant(x)");
-    const auto one = [](const char* text) { return QStringList{QString::fromUtf8(text)}; };
-    const QStringList empty{QString()};
-    return {
-        {"plain", "5", one("5")},
-        {"plain list", "a, b", {QStringLiteral("a"), QStringLiteral("b")}},
-        {"at within", "a@b", one("a@b")},
-        {"escaped text", "K\\xf6per", one("K\u00F6per")},
-        {"object", "@Variant(x)", {variant}},
-        {"quoted object", "\"@Variant(x)\"", {variant}},
-        {"object behind empty quotes", "\"\" @Variant(x)", {variant}},
-        {"object behind blanks", " \t@Variant(x)", {variant}},
-        {"object in a list",
-         "1, @Variant(x), \"@Rect(1 2 3 4)\"",
-         {QStringLiteral("1"), variant, QStringLiteral("@Rect(1 2 3 4)")}},
-        {"comma in quotes", "\"a,@b\"", one("a,@b")},
-        {"blank in quotes", "\" @b\"", one(" @b")},
-        {"doubled", "@@name", one("@@name")},
-        {"byte order mark", "\xEF\xBB\xBF@Variant(x)", {variant}},
-        {"polygon", QByteArray("@Variant(\\0\\0\\0\\x47\\x7f\\xff\\xff\\xff)"), empty},
-        {"long list", QByteArray("@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)"), empty},
-        {"hexadecimal at", "\\x40Variant(x)", empty},
-        {"hexadecimal at with zeros", "\\x000040Variant(x)", empty},
-        {"hexadecimal at beyond 16 bits", "\\x10040Variant(x)", empty},
-        {"octal at", "\\100Variant(x)", empty},
-        {"unknown escape before", "\\q@Variant(x)", empty},
-        {"continued line", "\\\n@Variant(x)", empty},
-    };
-}
+const QVector<Row> rows{
+    {"plain", "5"},
+    {"plain list", "a, b"},
+    {"at within", "a@b"},
+    {"escaped text", "K\\xf6per"},
+    {"object", "@Variant(x)"},
+    {"quoted object", "\"@Variant(x)\""},
+    {"object behind empty quotes", "\"\" @Variant(x)"},
+    {"object behind blanks", " \t@Variant(x)"},
+    {"object in a list", "1, @Variant(x), \"@Rect(1 2 3 4)\""},
+    {"comma in quotes", "\"a,@b\""},
+    {"blank in quotes", "\" @b\""},
+    {"doubled", "@@name"},
+    {"byte order mark", "\xEF\xBB\xBF@Variant(x)"},
+    {"polygon", "@Variant(\\0\\0\\0\\x47\\x7f\\xff\\xff\\xff)"},
+    {"long list", "@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)"},
+    {"hexadecimal at", "\\x40Variant(x)"},
+    {"hexadecimal at with zeros", "\\x000040Variant(x)"},
+    {"hexadecimal at beyond 16 bits", "\\x10040Variant(x)"},
+    {"octal at", "\\100Variant(x)"},
+    {"unknown escape before", "\\q@Variant(x)"},
+    {"continued line", "\\\n@Variant(x)"},
+};
 
 } // namespace
-
-void TestIniText::readingGivesTheText_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<QStringList>("read");
-    for (const Row& row : Rows()) {
-        QTest::newRow(row.name) << row.value << row.read;
-    }
-}
-
-void TestIniText::readingGivesTheText()
-{
-    QFETCH(const QByteArray, value);
-    QFETCH(const QStringList, read);
-    const QByteArray ini = "b=1\n[g]\n; a=@Variant(comment)\na=" + value + "\n[h]\na=@Variant(other)\n";
-    const QVariant found = ReadBack(MV::HarmlessForReading(ini));
-    QVERIFY(found.userType() == QMetaType::QString || found.userType() == QMetaType::QStringList);
-    QCOMPARE(found.toStringList(), read);
-}
 
 void TestIniText::valueBeginsWhereQSettingsSeesIt_data()
 {
@@ -191,13 +87,12 @@ void TestIniText::valueBeginsWhereQSettingsSeesIt()
 {
     QFETCH(const QByteArray, line);
     const QByteArray ini = "[g]\n" + line + '\n';
-    const QVariantMap plain = ReadAllBack(ini);
+    const QVariantMap plain = IniSamples::ReadBySettings(ini);
     QCOMPARE(Unpacked(plain), plain.keys());
     QCOMPARE(plain.size(), 1);
-    const QVariantMap read = ReadAllBack(MV::HarmlessForReading(ini));
-    QCOMPARE(read.keys(), plain.keys());
-    QCOMPARE(read.first(), QVariant(QStringLiteral("@Size(1 2)")));
-    QCOMPARE(Unpacked(ReadAllBack(MV::CShelteredIni(ini).Content())), QStringList());
+    const QVariantMap sheltered = IniSamples::ReadBySettings(MV::CShelteredIni(ini).Content());
+    QCOMPARE(sheltered.keys(), plain.keys());
+    QCOMPARE(Unpacked(sheltered), QStringList());
 }
 
 void TestIniText::nothingIsUnpackedFromAnyText()
@@ -205,14 +100,13 @@ void TestIniText::nothingIsUnpackedFromAnyText()
     QRandomGenerator random(3);
     int unpacked = 0;
     for (int round = 0; round < 300; ++round) {
-        const QByteArray ini = RandomIni(random);
-        const QVariantMap plain = ReadAllBack(ini);
+        const QByteArray ini = IniSamples::Random(random);
+        const QVariantMap plain = IniSamples::ReadBySettings(ini);
         const bool isUnpacked = !Unpacked(plain).isEmpty();
         unpacked += isUnpacked ? 1 : 0;
-        const QVariantMap read = ReadAllBack(MV::HarmlessForReading(ini));
-        const QVariantMap sheltered = ReadAllBack(MV::CShelteredIni(ini).Content());
-        QVERIFY2(Unpacked(read).isEmpty() && Unpacked(sheltered).isEmpty(), ini.toPercentEncoding());
-        QVERIFY2(read.keys() == plain.keys() && sheltered.keys() == plain.keys(), ini.toPercentEncoding());
+        const QVariantMap sheltered = IniSamples::ReadBySettings(MV::CShelteredIni(ini).Content());
+        QVERIFY2(Unpacked(sheltered).isEmpty(), ini.toPercentEncoding());
+        QVERIFY2(sheltered.keys() == plain.keys(), ini.toPercentEncoding());
     }
     QVERIFY2(unpacked > 5, "hardly any of these texts has an object");
 }
@@ -220,7 +114,7 @@ void TestIniText::nothingIsUnpackedFromAnyText()
 void TestIniText::shelteredTextIsRestored_data()
 {
     QTest::addColumn<QByteArray>("value");
-    for (const Row& row : Rows()) {
+    for (const Row& row : rows) {
         QTest::newRow(row.name) << row.value;
     }
 }
@@ -259,7 +153,7 @@ void TestIniText::unfinishedValueIsFinished()
     // QSettings writes keys in an order of its own, so others can follow.
     const QByteArray restored = sheltered.Restored(sheltered.Content() + "\na=last\n");
     QVERIFY(restored.contains(value));
-    QCOMPARE(ReadBack(MV::HarmlessForReading(restored)).toString(), QStringLiteral("last"));
+    QCOMPARE(ReadBack(restored).toString(), QStringLiteral("last"));
 }
 
 SOFTCLOTH_TEST_WITH(TestIniText, QCoreApplication)
