@@ -260,7 +260,8 @@ void CFormBuild::AddListItems(QListWidget* list, const QDomElement& element) con
 
 void CFormBuild::AddPage(QWidget* page, const QDomElement& element, QTabWidget* tabs) const
 {
-    QString title;
+    // What Qt's own loader calls a page that has no title.
+    QString title = QStringLiteral("Page");
     for (const QDomElement& attribute : Children(element, QStringLiteral("attribute"))) {
         if (NameOf(attribute) == QLatin1String("title")) {
             title = m_values.Of(attribute).toString();

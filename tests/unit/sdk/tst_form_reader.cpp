@@ -11,6 +11,7 @@
 #include <QLayout>
 #include <QPixmap>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QWidget>
 
 #include <memory>
@@ -24,6 +25,8 @@ private Q_SLOTS:
     void initTestCase();
     void formsAreAsFromUiTools_data();
     void formsAreAsFromUiTools();
+    void tabIsTitledAsByUiTools_data();
+    void tabIsTitledAsByUiTools();
     void unknownThingsAreReported_data();
     void unknownThingsAreReported();
     void formBeyondTheLimitsIsRefused_data();
@@ -84,6 +87,37 @@ void TestFormReader::formsAreAsFromUiTools()
     }
     QCOMPARE(actual.focusChain, expected.focusChain);
     QCOMPARE(ours->grab().toImage(), theirs->grab().toImage());
+}
+
+void TestFormReader::tabIsTitledAsByUiTools_data()
+{
+    QTest::addColumn<QByteArray>("attribute");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("title") << QByteArray("<attribute name=\"title\"><string>One</string></attribute>")
+                           << QStringLiteral("One");
+    QTest::newRow("none") << QByteArray() << QStringLiteral("Page");
+    QTest::newRow("other attribute") << QByteArray("<attribute name=\"toolTip\"><string>One</string></attribute>")
+                                     << QStringLiteral("Page");
+    QTest::newRow("empty") << QByteArray("<attribute name=\"title\"><string/></attribute>") << QString();
+}
+
+void TestFormReader::tabIsTitledAsByUiTools()
+{
+    QFETCH(const QByteArray, attribute);
+    QFETCH(const QString, title);
+    QByteArray form = "<ui version=\"4.0\"><class>Form</class><widget class=\"QTabWidget\" name=\"Form\">"
+                      "<widget class=\"QWidget\" name=\"page\">" +
+                      attribute + "</widget></widget></ui>";
+    for (const Reader reader : {&MV::Internal::ReadForm, &MV::Internal::ReadFormWithUiTools}) {
+        QBuffer buffer(&form);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        QString error;
+        const std::unique_ptr<QWidget> root(reader(buffer, QDir(), nullptr, error));
+        const auto* tabs = qobject_cast<QTabWidget*>(root.get());
+        QVERIFY2(tabs, qPrintable(error));
+        QCOMPARE(tabs->count(), 1);
+        QCOMPARE(tabs->tabText(0), title);
+    }
 }
 
 void TestFormReader::unknownThingsAreReported_data()
