@@ -3,19 +3,20 @@
 #include "material/SoftClothMaterialDlg.h"
 #include "panel/HostCodes.h"
 #include "panel/MessageBox.h"
+#include "panel/OutOfDate.h"
 #include "panel/PanelForm.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "plugin/services/EditService.h"
 #include "plugin/services/HotKeyService.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
-#include "plugin/services/SoftClothService.h"
 #include "plugin/services/UiService.h"
 #include "preset/ApplyKeys.h"
 #include "preset/EditedMaterial.h"
+#include "preset/PanelProfiles.h"
 #include "preset/PresetGallery.h"
-#include "sections/SoftClothCollisionSection.h"
-#include "sections/SoftClothPropertySection.h"
+#include "preset/SoftClothSwitch.h"
+#include "ui/IniFile.h"
 #include "ui/WidgetAccess.h"
 
 #include <MVPluginQt/EventSender.h>
@@ -26,11 +27,14 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSettings>
 #include <QTabWidget>
 
 namespace MV {
 
 namespace {
+
+const QString gravityKey = QStringLiteral("Use_Global_Gravity");
 
 /// Whether \p now is the material that \p before was, and soft cloth.
 bool IsStillShown(const SoftClothSelection& before, const SoftClothSelection& now)
@@ -186,8 +190,11 @@ BF::Result CSoftClothPresetSection::UpdateUi(bool sameObject)
         return BF::Results::NothingDone;
     }
     const BF::Result gravity = ShowGravity(shown);
-    if (!gravity.IsSuccess()) {
-        return gravity.IsFailure() ? gravity : BF::Results::Success;
+    if (gravity.IsFailure()) {
+        return gravity;
+    }
+    if (gravity == outOfDate) {
+        return BF::Results::Success;
     }
     ShowAffectAllMaterials();
     if (!sameObject && m_ui.presetTabWidget) {
@@ -214,8 +221,8 @@ BF::Result CSoftClothPresetSection::EnableRadioButtons()
     return BF::Results::Success;
 }
 
-/// \return 0; the host's failure; or 1 when the refresh is out of date by now: the box writes to the host when it
-///         changes, and in that write the host can show something else
+/// \return 0; the host's failure; or that the refresh is out of date: the box writes to the host when it changes, and
+///         in that write the host can show something else
 BF::Result CSoftClothPresetSection::ShowGravity(const SoftClothSelection& shown)
 {
     bool gravity = false;
@@ -225,12 +232,13 @@ BF::Result CSoftClothPresetSection::ShowGravity(const SoftClothSelection& shown)
         return known;
     }
     SetChecked(m_ui.useWorldGravityCheckBox, gravity);
-    return IsStillShown(shown, Selection()) ? BF::Results::Success : BF::Results::NothingDone;
+    return IsStillShown(shown, Selection()) ? BF::Results::Success : outOfDate;
 }
 
 void CSoftClothPresetSection::ShowAffectAllMaterials()
 {
-    EnableWidget(m_ui.affectAllMaterialsCheckBox, MaterialCount() >= 2);
+    const CSoftClothMaterialDlg* dialog = m_plugin->MaterialDlg();
+    EnableWidget(m_ui.affectAllMaterialsCheckBox, dialog && dialog->MaterialCount() >= 2);
     const CSignalBlocker silent{m_ui.affectAllMaterialsCheckBox};
     SetChecked(m_ui.affectAllMaterialsCheckBox, Selection().affectAllMaterials);
 }
@@ -248,85 +256,10 @@ void CSoftClothPresetSection::EnableUi(bool enable)
     }
 }
 
-int CSoftClothPresetSection::MaterialCount() const
-{
-    const CSoftClothMaterialDlg* dialog = m_plugin->MaterialDlg();
-    return dialog ? dialog->MaterialCount() : 0;
-}
-
 void CSoftClothPresetSection::OnClickActivePhysicsCheckBox()
 {
-    const QPointer<CSoftClothPresetSection> self(this);
-    if (!m_host) {
-        return;
-    }
-    const bool activate = IsChecked(m_ui.activePhysicsCheckBox);
-    Selection().softClothActive = activate;
-    if ((activate && !PrepareSoftCloth()) || !self) {
-        return;
-    }
-    // The write can send events that refresh the whole panel: from here on the selection says what holds.
-    const BF::CHandle* object = Selection().object;
-    Edit().SetPhysicsActive(Selection().object, softClothPhysics, Selection().softClothActive, true, true);
-    if (!self || Selection().object != object) {
-        // Gone, or showing something else, whose own refresh has enabled what belongs to it.
-        return;
-    }
-    m_plugin->EnableAll(Selection().softClothActive);
-    if (Selection().softClothActive) {
-        RefreshAfterSwitchOn();
-    } else if (IsWeightMapMode()) {
-        Ui().SetDialogMode(EDialogMode::None);
-    }
-}
-
-/// Makes the selected material soft cloth if it is not. \return false when the physics is not to be switched on
-bool CSoftClothPresetSection::PrepareSoftCloth()
-{
-    const SoftClothSelection& shown = Selection();
-    const BF::CHandle* const clicked = shown.object;
-    bool active = false;
-    Scene().IsSoftClothActive(shown.object, shown.mesh, shown.material, active);
-    // In the call the host may have selected another object, which the user did not switch on.
-    if (shown.object != clicked) {
-        return false;
-    }
-    if (active) {
-        return true;
-    }
-    switch (MaterialCount()) {
-    case 0:
-        RefuseSoftCloth();
-        return false;
-    case 1:
-        m_host->GetSoftClothService()->ApplySingleMaterialSoftCloth(shown.object, shown.mesh, shown.material);
-        return true;
-    default:
-        ConfirmMultipleMaterials();
-        return false;
-    }
-}
-
-void CSoftClothPresetSection::RefuseSoftCloth()
-{
-    Selection().softClothActive = false;
-    // Not silent: the box going off switches the physics off as well.
-    SetChecked(m_ui.activePhysicsCheckBox, false);
-    m_plugin->EnableAll(false);
-    ShowMessage(tr("This object does not have any valid material enabling to create soft cloth."));
-}
-
-void CSoftClothPresetSection::RefreshAfterSwitchOn()
-{
-    UpdateUi(true);
-    if (CSoftClothMaterialDlg* dialog = m_plugin->MaterialDlg()) {
-        dialog->UpdateUi();
-    }
-    if (CSoftClothPropertySection* property = m_plugin->PropertySection()) {
-        property->UpdateUi();
-    }
-    if (CSoftClothCollisionSection* collision = m_plugin->CollisionSection()) {
-        collision->UpdateUi();
+    if (m_host) {
+        CSoftClothSwitch(this, m_plugin, m_host, m_ui.activePhysicsCheckBox).FollowBox();
     }
 }
 
@@ -335,33 +268,7 @@ BF::Result CSoftClothPresetSection::ConfirmMultipleMaterials()
     if (!m_host) {
         return BF::Results::InvalidArgument;
     }
-    Selection().softClothActive = false;
-    {
-        const CSignalBlocker silent{m_ui.activePhysicsCheckBox};
-        SetChecked(m_ui.activePhysicsCheckBox, false);
-    }
-    m_plugin->EnableAll(false);
-    const QPointer<CSoftClothPresetSection> self(this);
-    const bool confirmed = AskOkOrCancel(
-        *m_host, tr("This object has multiple materials.\n Please select a material and load a gray map image."),
-        tr("[Physics Soft Cloth Section] Movira 6", "Message Title"), this);
-    if (!confirmed) {
-        return BF::Results::Cancelled;
-    }
-    if (!self) {
-        return BF::Results::Success;
-    }
-    EnableUi(false);
-    if (CSoftClothPropertySection* property = m_plugin->PropertySection()) {
-        property->EnableUi(false);
-    }
-    if (CSoftClothCollisionSection* collision = m_plugin->CollisionSection()) {
-        collision->EnableSection(false);
-    }
-    if (!IsWeightMapMode()) {
-        Ui().SetDialogMode(EDialogMode::WeightMap);
-    }
-    return BF::Results::Success;
+    return CSoftClothSwitch(this, m_plugin, m_host, m_ui.activePhysicsCheckBox).ConfirmMultipleMaterials();
 }
 
 void CSoftClothPresetSection::PhysicsSoftClothMultiMaterialsDetected(BFHANDLE hObject)
@@ -418,6 +325,58 @@ BF::Result CSoftClothPresetSection::WriteGravity(bool useGlobalGravity)
 void CSoftClothPresetSection::OnClickAffectAllMaterialsCheckBox()
 {
     Selection().affectAllMaterials = IsChecked(m_ui.affectAllMaterialsCheckBox);
+}
+
+/// The section's own group of a profile.
+ProfileGroup CSoftClothPresetSection::GravityGroup()
+{
+    const auto load = [this](const CIniGroup& profile) {
+        const QPointer<CSoftClothPresetSection> self(this);
+        const bool gravity = profile.Value(gravityKey).toBool();
+        // Not silent: a box that changes writes the gravity too.
+        SetChecked(m_ui.useWorldGravityCheckBox, gravity);
+        return self ? WriteGravity(gravity) : outOfDate;
+    };
+    const auto save = [this](QSettings& profile) {
+        profile.setValue(gravityKey, IsChecked(m_ui.useWorldGravityCheckBox));
+    };
+    return {QStringLiteral("Preset"), load, save};
+}
+
+CPanelProfiles CSoftClothPresetSection::Profiles()
+{
+    return {this, m_plugin, m_host, GravityGroup()};
+}
+
+BF::Result CSoftClothPresetSection::LoadProfileFile(const QString& path)
+{
+    return m_host ? Profiles().Load(path) : BF::Result(BF::Results::InvalidArgument);
+}
+
+void CSoftClothPresetSection::OnChangeCurrentItemOfPresetContentListWidget(QListWidget* pListWidget)
+{
+    LoadProfileFile(pListWidget ? ProfileOf(pListWidget->currentItem()) : QString());
+}
+
+void CSoftClothPresetSection::OnClickOpenFilePushButton()
+{
+    if (m_host) {
+        Profiles().ChooseAndLoad();
+    }
+}
+
+void CSoftClothPresetSection::OnClickSaveFilePushButton()
+{
+    if (m_host) {
+        Profiles().ChooseAndSave();
+    }
+}
+
+void CSoftClothPresetSection::OnClickLoadIniPushButton()
+{
+    if (m_host) {
+        Profiles().ChooseForHost();
+    }
 }
 
 void CSoftClothPresetSection::ShowMessage(const QString& text)

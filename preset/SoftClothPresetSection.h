@@ -9,14 +9,13 @@
 
 #include <QWidget>
 
-#include <vector>
-
 class QListWidget;
 
 namespace MV {
 
 class CEditService;
 class CMoviraInterface;
+class CPanelProfiles;
 class CPhysicsSoftClothPlugin;
 class CSceneService;
 class CUiService;
@@ -60,6 +59,9 @@ public:
     ///         call, at which the loading ends
     BF::Result LoadProfileFile(const QString& path);
 
+    /// Tells the user something in a message box of the section. Without a host nothing is shown.
+    void ShowMessage(const QString& text);
+
     int GetSectionPage() override { return 4; }
     int GetSectionOrder() override { return 0; }
     int GetSectionApplications() override { return 7; }
@@ -89,10 +91,6 @@ private:
     void ShowEditedMaterial();
     void FillGallery();
 
-    bool PrepareSoftCloth();
-    int MaterialCount() const;
-    void RefuseSoftCloth();
-    void RefreshAfterSwitchOn();
     void ConvertToRigidBody();
     bool IsWeightMapMode() const;
     BF::Result EnableRadioButtons();
@@ -100,9 +98,8 @@ private:
     void ShowAffectAllMaterials();
     BF::Result WriteGravity(bool useGlobalGravity);
 
-    std::vector<ProfileGroup> ProfileGroups();
-    QString DefaultFolder() const;
-    void ShowMessage(const QString& text);
+    ProfileGroup GravityGroup();
+    CPanelProfiles Profiles();
 
     CPhysicsSoftClothPlugin* m_plugin;
     CMoviraInterface* m_host = nullptr;
