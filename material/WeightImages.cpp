@@ -3,6 +3,7 @@
 
 #include "panel/HostCodes.h"
 #include "panel/MessageBox.h"
+#include "panel/OutOfDate.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "plugin/services/EditService.h"
 #include "plugin/services/FileService.h"
@@ -76,14 +77,14 @@ BF::Result CSoftClothMaterialDlg::LoadWeightImage(const QString& path)
     if (self && !loaded.IsSuccess()) {
         const bool keeps = TellLoadProblem(loaded);
         if (!self) {
-            return BF::Results::NothingDone;
+            return outOfDate;
         }
         const BF::Result undone = keeps ? BF::Results::Success : Edit().UndoLastEdit();
         if (undone.IsFailure()) {
             return undone;
         }
     }
-    return self ? Ui().RefreshScene(0) : BF::Results::NothingDone;
+    return self ? Ui().RefreshScene(0) : outOfDate;
 }
 
 /// Tells the user why an image is no good. \return whether it is to be kept all the same
@@ -335,7 +336,7 @@ void CSoftClothMaterialDlg::OnClickUvRefPushButton()
 }
 
 /// Opens the UV layout over the diffuse texture in the image editor.
-/// \param hasTexture  false when there is no diffuse texture, and nothing was opened
+/// \param hasTexture  false when the host knows of no diffuse texture, and nothing was opened
 BF::Result CSoftClothMaterialDlg::EditUvTexture(bool& hasTexture)
 {
     const SoftClothSelection selection = Selection();
@@ -356,8 +357,9 @@ BF::Result CSoftClothMaterialDlg::EditUvTexture(bool& hasTexture)
     bool unused3 = false;
     const BF::Result stateKnown = Scene().GetMaterialTextureState(selection.material, ETextureChannel::Diffuse,
                                                                   hasTexture, unused1, unused2, unused3);
-    if (stateKnown.IsFailure() || !hasTexture) {
-        return stateKnown;
+    hasTexture = hasTexture && !stateKnown.IsFailure();
+    if (!hasTexture) {
+        return BF::Results::Success;
     }
     BF::CArrayList<std::wstring> files;
     const BF::Result exported = Scene().ExportUvTexture(handle, index, ETextureChannel::Diffuse, files);

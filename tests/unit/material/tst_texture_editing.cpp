@@ -154,15 +154,19 @@ void TestTextureEditing::uvReferenceWithoutADiffuseTexture()
 void TestTextureEditing::uvReferenceThatFailsIsToldToTheUser_data()
 {
     QTest::addColumn<QString>("operation");
-    for (const char* operation :
-         {"GetMeshHandle", "GetMaterialIndex", "GetMaterialTextureState", "ExportUvTexture", "LaunchImageEditor"}) {
-        QTest::newRow(operation) << QString::fromLatin1(operation);
+    QTest::addColumn<QString>("text");
+    const QString notLaunched = QStringLiteral("Failed to launch image editor.");
+    for (const char* operation : {"GetMeshHandle", "GetMaterialIndex", "ExportUvTexture", "LaunchImageEditor"}) {
+        QTest::newRow(operation) << QString::fromLatin1(operation) << notLaunched;
     }
+    QTest::newRow("state") << QStringLiteral("GetMaterialTextureState")
+                           << QStringLiteral("Diffuse Uv Texture does not exist.");
 }
 
 void TestTextureEditing::uvReferenceThatFailsIsToldToTheUser()
 {
     QFETCH(const QString, operation);
+    QFETCH(const QString, text);
     DialogFixture fixture;
     fixture.Open();
     fixture.host.plan.textures[ETextureChannel::Diffuse].hasTexture = true;
@@ -170,7 +174,7 @@ void TestTextureEditing::uvReferenceThatFailsIsToldToTheUser()
     fixture.Click("qtUvRefPushButton");
     const QStringList calls = fixture.Take();
     QVERIFY(calls.at(calls.size() - 2).startsWith(operation));
-    QCOMPARE(calls.last(), Journal::Message(QStringLiteral("Failed to launch image editor.")));
+    QCOMPARE(calls.last(), Journal::Message(text));
 }
 
 SOFTCLOTH_TEST(TestTextureEditing)
