@@ -1,5 +1,6 @@
 #include "material/SoftClothMaterialDlg.h"
 
+#include "material/LargePreview.h"
 #include "panel/HostCodes.h"
 #include "panel/MessageBox.h"
 #include "panel/PanelForm.h"
@@ -18,6 +19,7 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QHideEvent>
+#include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
@@ -61,6 +63,9 @@ BF::Result CSoftClothMaterialDlg::Init(const QString& /*pluginPath*/, const QStr
             return path;
         });
         m_ui.weightingItemLabel->SetFileFilter(QStringLiteral("jpg jpeg bmp gif png tga"));
+    }
+    if (m_ui.bitmapLabel) {
+        m_preview = new CLargePreview(m_ui.bitmapLabel, [this](const QSize& pixels) { return RenderPreview(pixels); });
     }
     ConnectWidgets();
     ConnectHostEvents();

@@ -10,6 +10,7 @@
 #include <MVPluginQt/Result.h>
 
 #include <QMetaObject>
+#include <QPointer>
 #include <QSharedPointer>
 #include <QWeakPointer>
 
@@ -18,9 +19,12 @@
 #include <string>
 #include <vector>
 
+class QImage;
+
 namespace MV {
 
 class CEditService;
+class CLargePreview;
 class CMoviraInterface;
 class CPhysicsSoftClothPlugin;
 class CSceneService;
@@ -153,9 +157,12 @@ private:
     BF::Result FindTexture(MV::ETextureChannel channel, Drawing& drawing, bool& canBeEdited) const;
     BF::Result ShowThumbnail(QItemLabel* label, bool redraw);
     BF::Result DrawThumbnail(QItemLabel* label, const Drawing& drawing);
+    BF::Result FindDrawing(const QItemLabel* label, Drawing& drawing) const;
+    void FindSource(Drawing& drawing) const;
     void MakeLabelCurrent(QItemLabel* label);
     const QItemLabel* PreviewedLabel() const;
     void ShowPreview();
+    QImage RenderPreview(const QSize& pixels) const;
 
     // Weight image.
     BF::Result LoadWeightImage(const QString& path);
@@ -176,6 +183,7 @@ private:
     QWeakPointer<CSoftClothMaterialTable> m_materialTable;
     int m_rebuild = 0;                    ///< Number of the latest rebuild of the list.
     int m_materialTableCode = 0;          ///< How the table was left the last time.
+    QPointer<CLargePreview> m_preview;    ///< Belongs to its label; null without one.
     QItemLabel* m_currentLabel = nullptr; ///< The texture that the buttons work on; null for none yet.
     bool m_imageLoading = false;          ///< The host is loading images.
     bool m_isPicking = false;             ///< The host lets the user pick a material.

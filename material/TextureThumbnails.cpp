@@ -1,6 +1,7 @@
 // The pictures of the selected material's textures, and which of them is the current one.
 #include "material/SoftClothMaterialDlg.h"
 
+#include "material/LargePreview.h"
 #include "plugin/PhysicsSoftClothPlugin.h"
 #include "plugin/services/MoviraInterface.h"
 #include "plugin/services/SceneService.h"
@@ -67,16 +68,45 @@ const QItemLabel* CSoftClothMaterialDlg::PreviewedLabel() const
 void CSoftClothMaterialDlg::ShowPreview()
 {
     const QItemLabel* shown = PreviewedLabel();
-    if (!m_ui.bitmapLabel || !shown) {
-        return;
+    if (m_preview && shown) {
+        m_preview->Show(shown->pixmap(Qt::ReturnByValue));
     }
-    const QPixmap picture = shown->pixmap(Qt::ReturnByValue);
-    if (picture.isNull()) {
-        m_ui.bitmapLabel->clear();
-        return;
+}
+
+/// What the host has to draw for a label.
+BF::Result CSoftClothMaterialDlg::FindDrawing(const QItemLabel* label, Drawing& drawing) const
+{
+    if (label != m_ui.weightingItemLabel) {
+        bool canBeEdited = false;
+        return FindTexture(ChannelOf(label), drawing, canBeEdited);
     }
-    const QSize room = m_ui.bitmapLabel->contentsRect().size() * picture.devicePixelRatioF();
-    m_ui.bitmapLabel->setPixmap(picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    bool isDefault = false;
+    const BF::Result found = FindWeightThumbnail(drawing.thumbnail, isDefault);
+    if (!found.IsFailure()) {
+        FindSource(drawing);
+    }
+    return found;
+}
+
+void CSoftClothMaterialDlg::FindSource(Drawing& drawing) const
+{
+    if (!Scene().GetThumbnailSourceImage(drawing.thumbnail, drawing.source)) {
+        drawing.source = nullptr;
+    }
+}
+
+/// The picture of the previewed label with so many pixels; null where there is none.
+QImage CSoftClothMaterialDlg::RenderPreview(const QSize& pixels) const
+{
+    Drawing drawing;
+    const bool isShown = isVisible() && Selection().mesh != 0 && Selection().material != 0;
+    if (!isShown || FindDrawing(PreviewedLabel(), drawing).IsFailure()) {
+        return {};
+    }
+    QImage image(1, 1, QImage::Format_ARGB32);
+    const BF::Result drawn =
+        Scene().RenderThumbnail(pixels.width(), pixels.height(), drawing.thumbnail, drawing.source, image);
+    return drawn.IsFailure() ? QImage() : image;
 }
 
 BF::Result CSoftClothMaterialDlg::DrawThumbnail(QItemLabel* label, const Drawing& drawing)

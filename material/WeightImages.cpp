@@ -261,9 +261,7 @@ BF::Result CSoftClothMaterialDlg::UpdateWeightSettings(bool redraw, bool reload)
     }
     if (redraw) {
         Drawing drawing{image.thumbnail, nullptr};
-        if (!Scene().GetThumbnailSourceImage(drawing.thumbnail, drawing.source)) {
-            drawing.source = nullptr;
-        }
+        FindSource(drawing);
         const BF::Result drawn = DrawThumbnail(m_ui.weightingItemLabel, drawing);
         if (drawn.IsFailure()) {
             return drawn;

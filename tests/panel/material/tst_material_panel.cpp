@@ -68,6 +68,8 @@ struct MaterialPanel : PanelFixture
         App().SetDialogMode(EDialogMode::WeightMap);
         QVERIFY(QTest::qWaitForWindowExposed(&Dialog()));
         QApplication::setActiveWindow(&Dialog());
+        // The first painting fetches the large preview.
+        QApplication::processEvents();
         App().Journal().Clear();
     }
 

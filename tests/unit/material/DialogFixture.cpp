@@ -43,6 +43,8 @@ void DialogFixture::Show()
         qFatal("the dialog does not show");
     }
     QApplication::setActiveWindow(dialog);
+    // The first painting fetches the large preview.
+    QApplication::processEvents();
     host.Journal().Clear();
 }
 
