@@ -219,6 +219,10 @@
         <source>Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</source>
         <translation>Bilder (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</translation>
     </message>
+    <message>
+        <source>Keep UV Layout</source>
+        <translation>UV-Layout ablegen</translation>
+    </message>
 </context>
 <context>
     <name>Host::HostCallsView</name>

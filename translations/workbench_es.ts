@@ -219,6 +219,10 @@
         <source>Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</source>
         <translation>Imágenes (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</translation>
     </message>
+    <message>
+        <source>Keep UV Layout</source>
+        <translation>Guardar el despliegue UV</translation>
+    </message>
 </context>
 <context>
     <name>Host::HostCallsView</name>

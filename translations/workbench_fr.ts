@@ -219,6 +219,10 @@
         <source>Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</source>
         <translation>Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</translation>
     </message>
+    <message>
+        <source>Keep UV Layout</source>
+        <translation>Conserver le dépliage UV</translation>
+    </message>
 </context>
 <context>
     <name>Host::HostCallsView</name>

@@ -219,6 +219,10 @@
         <source>Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</source>
         <translation>画像 (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</translation>
     </message>
+    <message>
+        <source>Keep UV Layout</source>
+        <translation>UV レイアウトを保存</translation>
+    </message>
 </context>
 <context>
     <name>Host::HostCallsView</name>

@@ -219,6 +219,10 @@
         <source>Images (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</source>
         <translation>图像 (*.jpg *.jpeg *.bmp *.gif *.png *.tga)</translation>
     </message>
+    <message>
+        <source>Keep UV Layout</source>
+        <translation>保存 UV 布局</translation>
+    </message>
 </context>
 <context>
     <name>Host::HostCallsView</name>

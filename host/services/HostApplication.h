@@ -68,8 +68,8 @@ public:
     /// Tells the user about something that went wrong with a file, in a sentence.
     void TellProblem(const QString& sentence);
 
-    /// The next message box of a plug-in shows \p reason if it has no text of its own: the user gets one message
-    /// instead of two.
+    /// The next message box of a plug-in also shows \p reason: the user gets one message instead of two. For what the
+    /// plug-in answers with a box only.
     void ExplainNextBox(const QString& reason) { m_reason = reason; }
     /// What the next message box is to explain; a null string for nothing. It is explained once.
     QString TakeReason() { return std::exchange(m_reason, {}); }

@@ -93,6 +93,7 @@ bool Shows(const Object& object, const QString& file)
 
 ImageEditor::ImageEditor(HostApplication& host)
     : m_host(host)
+    , m_layouts(host)
 {
     m_settled.setSingleShot(true);
     m_settled.setInterval(settleTime);
@@ -106,7 +107,10 @@ ImageEditor::~ImageEditor() = default;
 
 BF::Result ImageEditor::Launch(const QStringList& files)
 {
-    if (files.isEmpty() || !std::all_of(files.begin(), files.end(), &MayBeLaunched)) {
+    if (files.isEmpty()) {
+        return BF::Results::NothingDone;
+    }
+    if (!std::all_of(files.begin(), files.end(), &MayBeLaunched)) {
         return BF::Results::Refused;
     }
     // Watched first: a program may be done before this one gets to it.
@@ -136,23 +140,25 @@ QString ImageEditor::FileForWeightImage(const ClothAddress& address)
     const Scene& scene = m_host.CurrentScene();
     const QString name = scene.FindMesh(address.mesh)->name + QLatin1Char('-') +
                          scene.FindMaterial(address.material)->name + QLatin1String("-weights");
-    const QString file = SaveNewFile(name, QString::fromLatin1(SuffixOf(ReadImageHeader(bytes).format)), bytes);
-    if (!file.isEmpty()) {
-        m_weightCopies.insert(file, address);
+    const QString file = NewFilePath(name, QString::fromLatin1(SuffixOf(ReadImageHeader(bytes).format)));
+    if (!WriteFile(file, bytes)) {
+        return {};
     }
+    m_weightCopies.insert(file, address);
     return file;
 }
 
-QString ImageEditor::SaveNewFile(const QString& name, const QString& suffix, const QByteArray& content)
+bool ImageEditor::WriteFile(const QString& path, const QByteArray& content, QString problem)
 {
-    const QString file = NewFilePath(name, suffix);
-    const QString problem = file.isEmpty() ? tr("there is no folder for temporary files") : SaveFile(file, content);
-    if (problem.isNull()) {
-        return file;
+    if (problem.isEmpty()) {
+        problem = path.isEmpty() ? tr("there is no folder for temporary files") : SaveFile(path, content);
     }
-    m_host.TellProblem(tr("The file \"%1\" for the image editor could not be written: %2.")
-                           .arg(QDir::toNativeSeparators(file.isEmpty() ? name : file), problem));
-    return {};
+    if (problem.isEmpty()) {
+        return true;
+    }
+    m_host.ExplainNextBox(tr("The file \"%1\" for the image editor could not be written: %2.")
+                              .arg(QDir::toNativeSeparators(path), problem));
+    return false;
 }
 
 QString ImageEditor::NewFilePath(const QString& name, const QString& suffix)
@@ -220,6 +226,7 @@ void ImageEditor::TakeChange(const QString& file, const QByteArray& bytes)
         }
     } else {
         m_host.Images().Store().ForgetFile(file);
+        m_layouts.TakePainted(file);
         for (const Object* object : m_host.CurrentScene().Objects()) {
             if (Shows(*object, file)) {
                 changed.Add(object->handle);
@@ -239,6 +246,7 @@ void ImageEditor::ForgetScene()
     }
     m_watched.clear();
     m_weightCopies.clear();
+    m_layouts.Clear();
     m_touched.clear();
 }
 

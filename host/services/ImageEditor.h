@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/scene/SceneEdit.h"
+#include "host/services/UvLayoutFiles.h"
 
 #include <MVPluginQt/Result.h>
 
@@ -35,7 +36,8 @@ public:
     const QString& Program() const { return m_program; }
 
     /// Opens \p files in the program and watches them from then on.
-    /// \return 0; 0x80000006 when one of them is not the absolute path of a file that begins as an image does, or the
+    /// \return 0; 1 when there are none; 0x80000006 when one of them is not the absolute path of a file that begins as
+    /// an image does, or the
     ///         program does not start
     BF::Result Launch(const QStringList& files);
 
@@ -44,12 +46,18 @@ public:
     /// \return a null string when there is no image or the copy cannot be written
     QString FileForWeightImage(const ClothAddress& address);
 
-    /// Writes \p content into a new file of this session, called after \p name.
-    /// \return its path; a null string, after a message, when it cannot be written
-    QString SaveNewFile(const QString& name, const QString& suffix, const QByteArray& content);
+    /// The UV layouts that were handed out for painting.
+    UvLayoutFiles& Layouts() { return m_layouts; }
+
+    /// A path at which there is no file yet, in the folder of this session, for a file called after \p name; a null
+    /// string when there is no such folder.
+    QString NewFilePath(const QString& name, const QString& suffix);
+    /// Writes \p content into the file \p path.
+    /// \param problem  why there is no content; empty for none
+    /// \return false when there is a problem, which the box that the caller shows then explains
+    bool WriteFile(const QString& path, const QByteArray& content, QString problem = {});
 
 private:
-    QString NewFilePath(const QString& name, const QString& suffix);
     void Watch(const QString& file);
     void OnTouched(const QString& fileOrFolder);
     void CheckTouchedFiles();
@@ -57,6 +65,7 @@ private:
     void ForgetScene();
 
     HostApplication& m_host;
+    UvLayoutFiles m_layouts;
     QString m_program;
     QFileSystemWatcher m_watcher;
     QHash<QString, QByteArray> m_watched;        ///< Files, and the check sums of their contents.

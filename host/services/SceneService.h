@@ -83,7 +83,8 @@ private:
                           std::vector<JournalArgument> furtherArguments, Use use) const;
     /// The object of that handle, or the one that the mesh of that handle belongs to; null for an unknown handle.
     const Object* FindOwner(const BF::CHandle* objectOrMesh) const;
-    /// Writes the UV layout of a material over one of its textures into a new file.
+    /// The file of the UV layout of a material over one of its textures: the one in which the user paints, or a new
+    /// one.
     BF::Result WriteUvTexture(const BF::CHandle* objectOrMesh, const Material& material, MV::ETextureChannel channel,
                               QString& file) const;
 };

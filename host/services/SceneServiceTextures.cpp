@@ -3,8 +3,8 @@
 #include "host/images/ImageDecode.h"
 #include "host/images/UvLayout.h"
 #include "host/services/ImageEditor.h"
+#include "host/services/UvLayoutFiles.h"
 
-#include <QBuffer>
 #include <QFileInfo>
 #include <QImage>
 
@@ -188,6 +188,9 @@ BF::Result SceneService::ExportUvTexture(BF::CHandle* object, std::size_t materi
         QString file;
         const BF::Result written = WriteUvTexture(object, found->materials[materialIndex], channel, file);
         if (!written.IsFailure()) {
+            files.Clear();
+        }
+        if (!file.isEmpty()) {
             files = {file.toStdWString()};
         }
         return written;
@@ -201,20 +204,27 @@ BF::Result SceneService::WriteUvTexture(const BF::CHandle* objectOrMesh, const M
     if (!IsPresent(texture)) {
         return BF::Results::Refused;
     }
+    const Object& owner = *FindOwner(objectOrMesh);
+    const std::vector<SlotOfMesh> drawn = SlotsWith(material.id, owner, objectOrMesh);
+    UvLayoutFiles::Slots addresses;
+    for (const SlotOfMesh& each : drawn) {
+        addresses.push_back({owner.handle, each.mesh->id, material.id});
+    }
+    UvLayoutFiles& layouts = App().Editor().Layouts();
+    file = layouts.FileOf(addresses);
+    if (!file.isEmpty()) {
+        return BF::Results::Success; // with what was painted in it
+    }
     const ImageStore::Image stored = App().Images().Store().Get(texture);
     if (stored->image.isNull()) {
-        App().TellProblem(UnreadableImageText(texture.filePath.isEmpty()
-                                                  ? HostApplication::tr("embedded texture of %1").arg(material.name)
-                                                  : texture.filePath,
-                                              stored->error));
+        App().ExplainNextBox(UnreadableImageText(texture.filePath.isEmpty()
+                                                     ? HostApplication::tr("embedded texture of %1").arg(material.name)
+                                                     : texture.filePath,
+                                                 stored->error));
         return BF::Results::ResourceFailure;
     }
-    const QImage layout = DrawUvLayout(stored->image, SlotsWith(material.id, *FindOwner(objectOrMesh), objectOrMesh));
-    QBuffer png;
-    png.open(QIODevice::WriteOnly);
-    layout.save(&png, "PNG");
-    file = App().Editor().SaveNewFile(material.name + QLatin1String("-uv"), QStringLiteral("png"), png.data());
-    return file.isEmpty() ? BF::Results::ResourceFailure : BF::Results::Success;
+    const QImage layout = DrawUvLayout(stored->image, drawn);
+    return layouts.Keep(owner.name + QLatin1Char('-') + material.name + QLatin1String("-uv"), layout, addresses, file);
 }
 
 /// Opens the texture where it is, also where that is a file: the materials' other textures may be the embedded ones.

@@ -5,6 +5,16 @@
 
 namespace Host {
 
+namespace {
+
+/// What a box says: what the plug-in has to say, if anything, and below it why.
+QString TextWithReason(const QString& text, const QString& reason)
+{
+    return text.isEmpty() || reason.isEmpty() ? text + reason : text + QStringLiteral("\n\n") + reason;
+}
+
+} // namespace
+
 UiService::UiService(HostApplication& host)
     : ServiceBase(host, "Ui")
 {
@@ -58,9 +68,8 @@ int UiService::ShowMessageBox(const QString& text, const QString& title, QWidget
 {
     return RecordValue("ShowMessageBox", {In(text), In(title), In(parent), In(icon), In(buttons), In(defaultButton)},
                        [&] {
-                           const QString kept = App().TakeReason(); // explains the next box or none
-                           const QString reason = text.isEmpty() ? kept : QString();
-                           const UserQuestion question{title, reason.isNull() ? text : reason, QMessageBox::Icon(icon),
+                           const QString reason = App().TakeReason(); // explains the next box or none
+                           const UserQuestion question{title, TextWithReason(text, reason), QMessageBox::Icon(icon),
                                                        QMessageBox::StandardButtons(buttons),
                                                        QMessageBox::StandardButton(defaultButton)};
                            const auto prepared = App().Answers().TakeButton();

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFontMetrics>
 #include <QGridLayout>
+#include <QInputDialog>
 #include <QPointer>
 
 #include <memory>
@@ -25,6 +26,18 @@ Result Run(std::unique_ptr<Dialog> dialog, const Result& whenGone, Read read)
     const Result result = read(*guard, code);
     delete guard.data();
     return result;
+}
+
+/// The window that the user is in, if it belongs to \p parent: there the focus is to be again afterwards.
+QWidget* WindowInUse(QWidget* parent)
+{
+    QWidget* const active = QApplication::activeWindow();
+    for (const QWidget* window = active; window && parent; window = window->parentWidget()) {
+        if (window == parent) {
+            return active;
+        }
+    }
+    return parent;
 }
 
 /// Makes \p box wide enough for its title. Qt does not count the application's name, which the system writes after it.
@@ -51,7 +64,8 @@ QMessageBox::StandardButton UserQuestion::EscapeAnswer() const
 
 QMessageBox::StandardButton AskUser(QWidget* parent, const UserQuestion& question)
 {
-    auto box = std::make_unique<QMessageBox>(question.icon, question.title, question.text, question.buttons, parent);
+    auto box = std::make_unique<QMessageBox>(question.icon, question.title, question.text, question.buttons,
+                                             WindowInUse(parent));
     FitTitle(*box);
     if (question.defaultButton != QMessageBox::NoButton) {
         box->setDefaultButton(question.defaultButton);
@@ -62,13 +76,24 @@ QMessageBox::StandardButton AskUser(QWidget* parent, const UserQuestion& questio
 
 QString AskForFile(QWidget* parent, const FileQuestion& question)
 {
-    auto dialog = std::make_unique<QFileDialog>(parent, question.title, QString(), question.filter);
+    auto dialog = std::make_unique<QFileDialog>(WindowInUse(parent), question.title, QString(), question.filter);
     dialog->setAcceptMode(question.isForSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setFileMode(question.isForSaving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog->setDefaultSuffix(question.defaultSuffix);
     dialog->selectFile(question.start);
     return Run(std::move(dialog), QString(), [](const QFileDialog& closed, int code) {
         return code == QDialog::Accepted ? closed.selectedFiles().value(0) : QString();
+    });
+}
+
+std::optional<QString> AskForText(QWidget* parent, const TextQuestion& question)
+{
+    auto dialog = std::make_unique<QInputDialog>(WindowInUse(parent));
+    dialog->setWindowTitle(question.title);
+    dialog->setLabelText(question.label);
+    dialog->setTextValue(question.text);
+    return Run(std::move(dialog), std::optional<QString>(), [](const QInputDialog& closed, int code) {
+        return code == QDialog::Accepted ? std::make_optional(closed.textValue()) : std::nullopt;
     });
 }
 

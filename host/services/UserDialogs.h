@@ -3,12 +3,13 @@
 #include <QMessageBox>
 #include <QString>
 
-class QFileDialog;
+#include <optional>
 
 namespace Host {
 
 // The host's own message boxes and file dialogs. Everything may happen behind one: also its parent, or whoever asked
-// for it, may be destroyed, and the box with it.
+// for it, may be destroyed, and the box with it. A box belongs to the window that the user is in, if that belongs to
+// the parent given.
 
 /// What is in a message box.
 struct UserQuestion
@@ -39,5 +40,16 @@ struct FileQuestion
 /// Shows a file dialog and waits for one file. \return an empty path when the user cancelled or the dialog was
 /// destroyed
 QString AskForFile(QWidget* parent, const FileQuestion& question);
+
+/// What a line of text is asked for.
+struct TextQuestion
+{
+    QString title;
+    QString label;
+    QString text; ///< What is in the line at first.
+};
+
+/// Shows a box with a line of text and waits. \return none when the user cancelled or the box was destroyed
+std::optional<QString> AskForText(QWidget* parent, const TextQuestion& question);
 
 } // namespace Host

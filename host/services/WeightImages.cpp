@@ -32,6 +32,13 @@ QString NameOf(const WeightImage& weight)
     return weight.image.filePath.isEmpty() ? HostApplication::tr("embedded weight image") : weight.image.filePath;
 }
 
+QString NoUvsText(const Mesh& mesh)
+{
+    return HostApplication::tr(
+               "The mesh \"%1\" has no texture coordinates, which would say where the image lies on it.")
+        .arg(mesh.name);
+}
+
 QByteArray FormatOfSuffix(const QString& path)
 {
     const QByteArray suffix = QFileInfo(path).suffix().toLower().toLatin1();
@@ -63,20 +70,14 @@ BF::Result WeightImages::Load(const ClothAddress& address, const QString& path)
     }
     const Mesh& mesh = *m_host.CurrentScene().FindMesh(address.mesh);
     if (moving == 0 && mesh.uvs.empty()) {
-        return RefuseLoad(text, HostApplication::tr("The mesh \"%1\" has no texture coordinates, which would say where "
-                                                    "the image lies on it.")
-                                    .arg(mesh.name));
+        return RefuseLoad(text, NoUvsText(mesh));
     }
     if (moving == 0) {
         edit.refused = true;
         m_host.CurrentScene().Push(std::move(edit));
         return BF::Results::Refused;
     }
-    cloth.active = true;
-    ObjectState state = m_host.CurrentScene().FindObject(address.object)->state;
-    state.softCloth = true;
-    state.rigidBody = false;
-    edit.objects.push_back({address.object, {}, state});
+    MakeSoftCloth(edit);
     edit.isStepAnyway = moving > mostMovingVertices;
     m_host.CurrentScene().Push(std::move(edit));
     return moving > mostMovingVertices ? BF::Results::NothingDone : BF::Results::Success;
@@ -158,17 +159,37 @@ BF::Result WeightImages::ReplaceEmbedded(const ClothAddress& address, const QByt
     ClothState cloth = slot->cloth;
     cloth.weight.image = {{}, bytes};
     QString error;
-    const int moving = CountMoving(address, cloth.weight, error);
-    if (!error.isEmpty()) {
-        m_host.TellProblem(UnreadableImageText(NameOf(cloth.weight), error));
-        return BF::Results::ResourceFailure;
-    }
-    if (moving == 0) {
-        m_host.TellProblem(HostApplication::tr("The edited weight image is black wherever the material has vertices; "
-                                               "the former one is kept."));
-        return BF::Results::Refused;
+    if (CountMoving(address, cloth.weight, error) == 0) {
+        return TellRefused(cloth.weight, *m_host.CurrentScene().FindMesh(address.mesh), error);
     }
     return Push(address, cloth, HostApplication::tr("Edit weight image"));
+}
+
+BF::Result WeightImages::TakePainted(const std::vector<ClothAddress>& addresses, const QString& path)
+{
+    SceneEdit edit;
+    edit.text = HostApplication::tr("Load weight image %1").arg(QFileInfo(path).fileName());
+    QString error;
+    int moving = 0;
+    for (const ClothAddress& address : addresses) {
+        const MaterialSlot* slot = m_host.CurrentScene().FindSlot(address);
+        if (slot && slot->cloth.weight.image.filePath != path) {
+            edit.cloths.push_back({address, {}, slot->cloth});
+            WeightImage& weight = edit.cloths.back().after.weight;
+            weight = {{path, {}}, 0, 0};
+            moving += CountMoving(address, weight, error);
+        }
+    }
+    if (edit.cloths.empty()) {
+        return BF::Results::NothingDone;
+    }
+    if (moving == 0) {
+        const SceneEdit::ClothChange& first = edit.cloths.front();
+        return TellRefused(first.after.weight, *m_host.CurrentScene().FindMesh(first.address.mesh), error);
+    }
+    MakeSoftCloth(edit);
+    m_host.CurrentScene().Push(std::move(edit));
+    return BF::Results::Success;
 }
 
 BF::Result WeightImages::Save(const ClothAddress& address, const QString& path)
@@ -183,8 +204,8 @@ BF::Result WeightImages::Save(const ClothAddress& address, const QString& path)
         error = SaveFile(path, bytes);
     }
     if (!error.isEmpty()) {
-        m_host.TellProblem(HostApplication::tr("The weight image could not be saved as \"%1\": %2.")
-                               .arg(QDir::toNativeSeparators(path), error));
+        m_host.ExplainNextBox(HostApplication::tr("The weight image could not be saved as \"%1\": %2.")
+                                  .arg(QDir::toNativeSeparators(path), error));
         return BF::Results::Refused;
     }
     return BF::Results::Success;
@@ -212,6 +233,33 @@ BF::Result WeightImages::RefuseLoad(const QString& text, const QString& reason)
     m_host.ExplainNextBox(reason);
     PushRefusal(text);
     return BF::Results::ResourceFailure;
+}
+
+/// An image that was edited outside is not taken, \p error being why it cannot be read, if that is so.
+BF::Result WeightImages::TellRefused(const WeightImage& weight, const Mesh& mesh, const QString& error)
+{
+    if (!error.isEmpty()) {
+        m_host.TellProblem(UnreadableImageText(NameOf(weight), error));
+        return BF::Results::ResourceFailure;
+    }
+    m_host.TellProblem(mesh.uvs.empty()
+                           ? NoUvsText(mesh)
+                           : HostApplication::tr("The edited weight image is black wherever the material has vertices; "
+                                                 "the former one is kept."));
+    return BF::Results::Refused;
+}
+
+/// Makes the materials whose weight image \p edit changes soft cloth, and their object one with soft cloth physics.
+void WeightImages::MakeSoftCloth(SceneEdit& edit) const
+{
+    for (SceneEdit::ClothChange& change : edit.cloths) {
+        change.after.active = true;
+    }
+    BF::CHandle* const object = edit.cloths.front().address.object;
+    ObjectState state = m_host.CurrentScene().FindObject(object)->state;
+    state.softCloth = true;
+    state.rigidBody = false;
+    edit.objects.push_back({object, {}, state});
 }
 
 void WeightImages::PushRefusal(const QString& text)

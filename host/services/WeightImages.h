@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace Host {
 
@@ -45,12 +46,17 @@ public:
     ///         there is no image that can be read, and nothing was done
     BF::Result Adjust(const ClothAddress& address, const MV::WeightImageAdjust& adjust, bool isFinal);
 
+    /// Links the image file \p path, in which the user has painted, to all of \p addresses that are not linked to it,
+    /// as Load() does. What is refused leaves no step: the user hears of it here.
+    /// \return 0; 1 when all are linked to it; a failure, after a message, when it cannot be read or no vertex moves
+    BF::Result TakePainted(const std::vector<ClothAddress>& addresses, const QString& path);
+
     /// Puts \p bytes in place of an embedded image, unless they are no image or leave no vertex moving.
     BF::Result ReplaceEmbedded(const ClothAddress& address, const QByteArray& bytes);
 
     /// Writes the image: as it came when nothing is adjusted and the suffix fits, else as it looks, in gray, in the
     /// format of the suffix (PNG without one). The scene does not change.
-    /// \return 0, or 0x80000006 when it cannot be written
+    /// \return 0, or 0x80000006 when it cannot be written, and the reason is in the box that the caller shows then
     BF::Result Save(const ClothAddress& address, const QString& path);
 
     /// How many vertices move under the weight image of a material; none for an unknown one and without an image that
@@ -76,6 +82,8 @@ private:
 
     BF::Result RefuseLoad(const QString& text, const QString& reason);
     int CountMoving(const ClothAddress& address, const WeightImage& weight, QString& error);
+    BF::Result TellRefused(const WeightImage& weight, const Mesh& mesh, const QString& error);
+    void MakeSoftCloth(SceneEdit& edit) const;
     BF::Result Push(const ClothAddress& address, const ClothState& cloth, const QString& text);
     QByteArray EncodeForSaving(const WeightImage& weight, const QString& path, QString& error);
 

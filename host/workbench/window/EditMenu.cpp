@@ -2,19 +2,21 @@
 
 #include "host/services/HostApplication.h"
 #include "host/services/ImageEditor.h"
+#include "host/services/UserDialogs.h"
 #include "host/workbench/window/FocusedEditor.h"
 
-#include <QInputDialog>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSettings>
+#include <QVariant>
 
 namespace Host {
 
 namespace {
 
 const QString imageEditorKey = QStringLiteral("imageEditor");
+const QString layoutsKey = QStringLiteral("uvLayouts");
 
 } // namespace
 
@@ -25,6 +27,8 @@ EditMenu::EditMenu(HostApplication& host, QMainWindow& window)
 {
     CreateActions();
     connect(&host, &HostApplication::SceneReplaced, this, &EditMenu::ConnectScene);
+    connect(&host.Editor().Layouts(), &UvLayoutFiles::KeptChanged, this,
+            [this](const QStringList& files) { Remember(layoutsKey, files); });
     ConnectScene();
 }
 
@@ -82,23 +86,29 @@ void EditMenu::DeleteSelected()
 
 void EditMenu::RestoreImageEditor()
 {
-    m_host.Editor().SetProgram(QSettings().value(imageEditorKey).toString());
+    const QSettings settings;
+    m_host.Editor().SetProgram(settings.value(imageEditorKey).toString());
+    m_host.Editor().Layouts().SetKept(settings.value(layoutsKey).toStringList());
+}
+
+void EditMenu::Remember(const QString& key, const QVariant& value) const
+{
+    if (!m_unattended) {
+        QSettings().setValue(key, value);
+    }
 }
 
 void EditMenu::ChooseImageEditor()
 {
-    bool chosen = false;
-    const QString program =
-        QInputDialog::getText(&m_window, tr("Image Editor"),
-                              tr("Program that opens weight images; empty for what the desktop opens them with:"),
-                              QLineEdit::Normal, m_host.Editor().Program(), &chosen);
-    if (!chosen) {
+    const auto program =
+        AskForText(&m_window, {tr("Image Editor"),
+                               tr("Program that opens weight images; empty for what the desktop opens them with:"),
+                               m_host.Editor().Program()});
+    if (!program) {
         return;
     }
-    m_host.Editor().SetProgram(program);
-    if (!m_unattended) {
-        QSettings().setValue(imageEditorKey, program);
-    }
+    m_host.Editor().SetProgram(*program);
+    Remember(imageEditorKey, *program);
 }
 
 } // namespace Host

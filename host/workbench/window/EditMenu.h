@@ -23,7 +23,7 @@ public:
 
     void AddMenu(QMenu* menu);
 
-    /// Sets the program that the user chose for images in an earlier run.
+    /// Sets what the user chose in an earlier run: the program for images, the UV layouts kept.
     void RestoreImageEditor();
     /// With nobody to click, nothing is remembered from one run to the next.
     void SetUnattended() { m_unattended = true; }
@@ -34,6 +34,7 @@ private:
     void ConnectScene();
     void DeleteSelected();
     void ChooseImageEditor();
+    void Remember(const QString& key, const QVariant& value) const;
 
     HostApplication& m_host;
     QMainWindow& m_window;

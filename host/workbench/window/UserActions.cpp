@@ -40,6 +40,7 @@ bool UserActions::eventFilter(QObject* /*watched*/, QEvent* event)
 void UserActions::Begin() const
 {
     m_host.CurrentScene().BeginUserAction();
+    m_host.TakeReason(); // for a box that never came
 }
 
 } // namespace Host

@@ -6,7 +6,7 @@ namespace Host {
 
 class HostApplication;
 
-/// Tells the scene where one user action ends and the next one begins: at each event of mouse or keyboard and each time
+/// Tells the host where one user action ends and the next one begins: at each event of mouse or keyboard and each time
 /// the program waits. What is written in between, as all values of a preset are, becomes one undo step.
 class UserActions : public QObject
 {

@@ -46,6 +46,8 @@ private Q_SLOTS:
     void deletedImageComesBackByUndo();
     void imageSavedByTheEditorIsShown();
     void uvLayoutOpensInTheEditor();
+    void paintedUvLayoutIsTheWeightImage();
+    void cancelledUvLayoutIsNoFailure();
 };
 
 namespace {
@@ -384,6 +386,34 @@ void TestWeightImagesInHost::uvLayoutOpensInTheEditor()
     QCOMPARE(launched.size(), 1);
     const QString file = launched.first().section(QLatin1Char('"'), 1, 1);
     QVERIFY2(!QImage(file).isNull(), qPrintable(launched.first()));
+}
+
+void TestWeightImagesInHost::paintedUvLayoutIsTheWeightImage()
+{
+    WeightPanel panel;
+    const QImage before = panel.Thumbnail();
+    const QString layout = panel.Path(QStringLiteral("layout.png"));
+    panel.App().Answers().AddFile(layout);
+    const QString painted = panel.Image(QStringLiteral("painted.png"), white);
+    panel.App().Editor().SetProgram(QStringLiteral("\"" SOFTCLOTH_STAND_IN_EDITOR "\" --put \"%1\"").arg(painted));
+    panel.Click("qtUvRefPushButton");
+    QTRY_COMPARE(panel.Weight().image.filePath, layout);
+    QTRY_VERIFY(panel.Thumbnail() != before);
+    QCOMPARE(panel.Thumbnail().pixelColor(44, 44), QColor(Qt::white));
+    QVERIFY(Child<QPushButton>(&panel.Dialog(), "qtEmbedTexturePushButton")->isEnabled());
+    panel.App().Undo();
+    QVERIFY(panel.Weight().IsNone());
+    QCOMPARE(panel.Thumbnail(), before);
+}
+
+void TestWeightImagesInHost::cancelledUvLayoutIsNoFailure()
+{
+    WeightPanel panel;
+    panel.App().Answers().AddFile({});
+    panel.Click("qtUvRefPushButton");
+    const QStringList calls = TakeCalls(panel.App().Journal());
+    QCOMPARE(calls.filter(QStringLiteral("ExportUvTexture")).size(), 1);
+    QCOMPARE(calls.filter(QStringLiteral("ShowMessageBox")).size(), 0);
 }
 
 SOFTCLOTH_TEST(TestWeightImagesInHost)

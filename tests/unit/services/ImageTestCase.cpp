@@ -3,6 +3,7 @@
 #include "plugin/services/EditService.h"
 #include "plugin/services/FileService.h"
 #include "plugin/services/SceneService.h"
+#include "plugin/services/UiService.h"
 #include "tests/support/SampleImages.h"
 #include "tests/support/SampleModels.h"
 
@@ -50,6 +51,11 @@ BF::Result ImageTestCase::Delete() const
 BF::Result ImageTestCase::Embed() const
 {
     return Edits().EmbedWeightImage(m_address.object, m_address.mesh, m_address.material);
+}
+
+void ImageTestCase::ShowBox() const
+{
+    m_host->GetUiService()->ShowMessageBox(QStringLiteral("It failed."), {}, nullptr, 2, 0x400, 0);
 }
 
 MV::WeightImageState ImageTestCase::State() const

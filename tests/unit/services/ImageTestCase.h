@@ -36,6 +36,9 @@ protected:
     QImage Render(BF::CHandle* thumbnail, const QSize& size, BF::CHandle* source = nullptr) const;
     BF::CHandle* WeightTexture() const;
 
+    /// The box that whoever asked for something shows after a failure. It brings the host's reason into m_problems.
+    void ShowBox() const;
+
     /// Handle of the only object, whose materials all have their slots.
     Host::Object& Hero() const { return *m_hero; }
 

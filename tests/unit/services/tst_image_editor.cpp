@@ -31,6 +31,7 @@ private Q_SLOTS:
     void everyNameArrivesAsOneArgument_data();
     void everyNameArrivesAsOneArgument();
     void desktopOpensFilesWithoutAProgram();
+    void noFilesOpenNothing();
     void launchFails_data();
     void launchFails();
     void onlyImagesWithAbsolutePathsAreOpened_data();
@@ -284,12 +285,18 @@ void TestImageEditor::desktopOpensFilesWithoutAProgram()
     QCOMPARE(m_opened, (QList<QUrl>{QUrl::fromLocalFile(a), QUrl::fromLocalFile(b)}));
 }
 
+void TestImageEditor::noFilesOpenNothing()
+{
+    m_host->Editor().SetProgram(QStringLiteral("/no/such/program"));
+    QCOMPARE(Launch({}), BF::Results::NothingDone);
+    QVERIFY(m_opened.isEmpty());
+}
+
 void TestImageEditor::launchFails_data()
 {
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("files");
     const QStringList good{QStringLiteral("a.png")};
-    QTest::newRow("no files") << QString() << QStringList();
     QTest::newRow("empty path") << QString() << QStringList{QString()};
     QTest::newRow("missing file") << QString() << QStringList{QStringLiteral("missing.png")};
     QTest::newRow("one of them missing") << QString() << good + QStringList{QStringLiteral("missing.png")};
@@ -410,6 +417,7 @@ void TestImageEditor::noCopyIsMadeOnAFullDisk()
     {
         const FullDisk full{rlim_t(Weight().image.embedded.size() - 1)};
         QCOMPARE(EditFile(), QString());
+        ShowBox();
         QCOMPARE(m_problems.size(), 1);
     }
     QVERIFY(QFile::exists(EditFile()));

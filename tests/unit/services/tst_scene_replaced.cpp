@@ -1,4 +1,5 @@
 #include "host/services/HostApplication.h"
+#include "host/services/WeightImages.h"
 #include "plugin/services/EditService.h"
 #include "plugin/services/FileService.h"
 #include "plugin/services/SceneService.h"
@@ -126,12 +127,19 @@ void TestSceneReplaced::changeSurvivesAnotherSceneInsideItsEvents_data()
             host.GetEditService()->EmbedWeightImage(hero, mesh, material);
         });
     });
-    row("missing texture that is exported", [onSkin](Application& host, Handle hero) {
+    row("reason in the box after an export", [onSkin](Application& host, Handle hero) {
         onSkin(host, hero, [&](Host::Id, Host::Id material) {
             host.CurrentScene().FindMaterial(material)->textures[MV::ETextureChannel::Diffuse].filePath =
                 QStringLiteral("/no/such/image.png");
             BF::CArrayList<std::wstring> files;
             host.GetSceneService()->ExportUvTexture(hero, 0, MV::ETextureChannel::Diffuse, files);
+            host.Answers().unattended = true;
+            host.GetUiService()->ShowMessageBox({}, {}, nullptr, 1, 0x400, 0);
+        });
+    });
+    row("painted layout that is gone", [onSkin](Application& host, Handle hero) {
+        onSkin(host, hero, [&](Host::Id mesh, Host::Id material) {
+            host.Weights().TakePainted({{hero, mesh, material}}, QStringLiteral("/no/such/image.png"));
         });
     });
     row("images", [](Application& host, Handle hero) {

@@ -19,12 +19,14 @@ class TestUserDialogs : public TestCase
 private Q_SLOTS:
     void boxGivesTheButton_data();
     void boxGivesTheButton();
+    void boxShowsTheReasonBelowItsText();
     void boxIsAsWideAsItsTitle();
     void boxEndsWithItsParent_data();
     void boxEndsWithItsParent();
     void fileDialogEndsWithTheMainWindow_data();
     void fileDialogEndsWithTheMainWindow();
     void fileDialogGivesTheFile();
+    void dialogBelongsToTheWindowInUse();
 
 private:
     /// Runs \p ask and, once a dialog is open, \p use with it.
@@ -77,6 +79,25 @@ void TestUserDialogs::boxGivesTheButton()
             QTest::keyClick(box, Qt::Key(key));
         });
     QCOMPARE(given, answer);
+}
+
+void TestUserDialogs::boxShowsTheReasonBelowItsText()
+{
+    Host::HostApplication host;
+    const auto shownText = [&](const QString& text) {
+        QString shown;
+        WithDialog([&] { host.GetUiService()->ShowMessageBox(text, {}, nullptr, 2, QMessageBox::Ok, 0); },
+                   [&](QWidget* dialog) {
+                       shown = qobject_cast<QMessageBox*>(dialog)->text();
+                       QTest::keyClick(dialog, Qt::Key_Return);
+                   });
+        return shown;
+    };
+    host.ExplainNextBox(QStringLiteral("The disk is full."));
+    QCOMPARE(shownText(QStringLiteral("It failed.")), QStringLiteral("It failed.\n\nThe disk is full."));
+    QCOMPARE(shownText(QStringLiteral("It failed.")), QStringLiteral("It failed."));
+    host.ExplainNextBox(QStringLiteral("The disk is full."));
+    QCOMPARE(shownText(QString()), QStringLiteral("The disk is full."));
 }
 
 void TestUserDialogs::boxIsAsWideAsItsTitle()
@@ -168,6 +189,29 @@ void TestUserDialogs::fileDialogGivesTheFile()
                    static_cast<QDialog*>(files)->done(QDialog::Accepted);
                });
     QCOMPARE(path, QCoreApplication::applicationFilePath());
+}
+
+void TestUserDialogs::dialogBelongsToTheWindowInUse()
+{
+    Host::HostApplication host;
+    QWidget window;
+    QDialog inside(&window);
+    QWidget foreign;
+    host.SetMainWindow(&window);
+    // The plug-in's dialog gets the focus back afterwards, and not the window behind it.
+    for (QWidget* active : {static_cast<QWidget*>(&inside), &window, &foreign}) {
+        active->show();
+        active->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(active));
+        const QWidget* parent = nullptr;
+        QString path;
+        WithDialog([&] { host.GetSceneService()->GetOpenImageFileName(path, 4, 71, 4); },
+                   [&](QWidget* dialog) {
+                       parent = dialog->parentWidget();
+                       dialog->close();
+                   });
+        QCOMPARE(parent, static_cast<const QWidget*>(active == &foreign ? &window : active));
+    }
 }
 
 SOFTCLOTH_TEST(TestUserDialogs)

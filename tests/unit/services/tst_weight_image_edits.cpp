@@ -488,6 +488,8 @@ void TestWeightImageEdits::imageCannotBeSaved()
         EmbedGray();
     }
     QCOMPARE(Save(PathOf(name)), BF::Results::Refused);
+    QVERIFY(m_problems.isEmpty());
+    ShowBox();
     QCOMPARE(m_problems.size(), 1);
     QVERIFY2(m_problems.first().contains(QDir::toNativeSeparators(PathOf(name))) && m_problems.first().contains(reason),
              qPrintable(m_problems.first()));
@@ -513,6 +515,7 @@ void TestWeightImageEdits::fullDiskLeavesTheOldFile()
         m_problems.clear();
         const FullDisk full{rlim_t(room)};
         QCOMPARE(Save(path), BF::Results::Refused);
+        ShowBox();
         QCOMPARE(m_problems.size(), 1);
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -531,6 +534,7 @@ void TestWeightImageEdits::adjustedImageIsNotSavedOverItsOwnFile()
     Adjust(10, 0);
     QCOMPARE(Save(path), BF::Results::Refused);
     QCOMPARE(QImage(path).pixelColor(1, 1), QColor(Qt::gray));
+    ShowBox();
     QVERIFY(m_problems.first().contains(QStringLiteral("linked to this file")));
     Embed();
     QCOMPARE(Save(path), BF::Results::Success);
