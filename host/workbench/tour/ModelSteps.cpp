@@ -33,6 +33,7 @@ QString SwitchSoftClothOn(TourHands& hands)
     const bool asks = offered > 1;
     if (asks) {
         hands.App().Answers().AddButton(QMessageBox::Ok);
+        hands.ExpectMessages(1);
     }
     const QString problem = hands.Click("qtActivePhysicsCheckBox");
     if (!problem.isEmpty()) {

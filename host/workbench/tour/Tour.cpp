@@ -31,6 +31,9 @@ bool TakeStep(TourHands& hands, const TourStep& step, bool mayRun)
 {
     hands.BeginStep(step.name);
     QString problem = mayRun ? step.run() : QStringLiteral("not reached");
+    if (mayRun && problem.isEmpty()) {
+        problem = hands.CheckMessages();
+    }
     if (!hands.TakePictures() && problem.isEmpty()) {
         problem = QStringLiteral("no picture could be written");
     }

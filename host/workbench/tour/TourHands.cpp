@@ -12,6 +12,8 @@
 #include <QScrollArea>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace Host {
 
 namespace {
@@ -21,6 +23,8 @@ void SendMouse(QWidget& widget, QEvent::Type type, const QPoint& at, Qt::MouseBu
     QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
     QApplication::sendEvent(&widget, &event);
 }
+
+const QString boxOperation = QStringLiteral("ShowMessageBox");
 
 /// A dialog goes by the name of the form in it.
 QString NameOf(const QWidget& window)
@@ -35,6 +39,7 @@ TourHands::TourHands(MainWindow& window, const QString& folder)
     : m_window(window)
     , m_folder(QFileInfo(folder).absoluteFilePath())
 {
+    QObject::connect(&App(), &HostApplication::ProblemTold, &window, [this] { CountProblem(); });
 }
 
 void TourHands::BeginStep(const char* name)
@@ -42,6 +47,28 @@ void TourHands::BeginStep(const char* name)
     m_stepName = QLatin1String(name);
     ++m_stepNumber;
     m_journalSize = int(App().Journal().Entries().size());
+    m_problems = 0;
+    m_expectedMessages = 0;
+}
+
+/// What is told while a message box is up stands in that box.
+void TourHands::CountProblem()
+{
+    const QVector<JournalEntry>& entries = App().Journal().Entries();
+    const bool isInBox =
+        !entries.isEmpty() && entries.constLast().operation == boxOperation && entries.constLast().result.isEmpty();
+    m_problems += isInBox ? 0 : 1;
+}
+
+QString TourHands::CheckMessages() const
+{
+    const QVector<JournalEntry> entries = App().Journal().Entries().mid(m_journalSize);
+    const auto boxes = std::count_if(entries.begin(), entries.end(),
+                                     [](const JournalEntry& entry) { return entry.operation == boxOperation; });
+    const int messages = int(boxes) + m_problems;
+    return messages == m_expectedMessages
+               ? QString()
+               : QStringLiteral("%1 messages in place of %2").arg(messages).arg(m_expectedMessages);
 }
 
 bool TourHands::TakePictures()

@@ -39,6 +39,10 @@ public:
 
     /// Begins a step, whose pictures have \p name in theirs.
     void BeginStep(const char* name);
+    /// The user is to get so many messages in this step; none without this. Each cause gives one.
+    void ExpectMessages(int count) { m_expectedMessages = count; }
+    /// Empty when the user got as many messages in this step as were expected.
+    QString CheckMessages() const;
     /// Writes pictures of every window that is open and of the Modify panel alone. \return false when that failed
     bool TakePictures();
 
@@ -92,6 +96,7 @@ public:
     const ClothState* EditedCloth() const;
 
 private:
+    void CountProblem();
     static void WhenModal(const std::function<void(QWidget&)>& use);
 
     MainWindow& m_window;
@@ -99,6 +104,8 @@ private:
     QString m_stepName;
     int m_stepNumber = 0;
     int m_journalSize = 0; ///< When the step began.
+    int m_problems = 0;    ///< That the host told in this step in a box of its own.
+    int m_expectedMessages = 0;
 };
 
 /// The steps by subject, in the order in which the tour takes them.

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QDialog>
+#include <QImage>
 #include <QSpinBox>
 #include <QTableWidget>
 
@@ -43,6 +44,43 @@ QString LoadImage(TourHands& hands)
     const ClothState* cloth = hands.EditedCloth();
     return cloth && cloth->weight.image.filePath == path ? hands.CheckCalled("LoadWeightImage")
                                                          : QStringLiteral("the material has no weight image");
+}
+
+/// Has a file chosen for the weight image that is no good: one message, and everything is as it was.
+QString LoadBadImage(TourHands& hands, const QString& path)
+{
+    const WeightImage before = hands.EditedCloth()->weight;
+    const int steps = hands.CurrentScene().UndoStack().count();
+    hands.App().Answers().AddFile(path);
+    hands.ExpectMessages(1);
+    const QString problem = hands.Click("qtOpenFilePushButton", dialogForm);
+    if (!problem.isEmpty()) {
+        return problem;
+    }
+    return hands.EditedCloth()->weight == before && hands.CurrentScene().UndoStack().count() == steps
+               ? QString()
+               : QStringLiteral("the former image is not back");
+}
+
+QString LoadBlackImage(TourHands& hands)
+{
+    QImage black(16, 16, QImage::Format_Grayscale8);
+    black.fill(0);
+    const QString path = hands.FileInFolder(QStringLiteral("black.png"));
+    return black.save(path) ? LoadBadImage(hands, path) : QStringLiteral("no black image could be written");
+}
+
+QString LoadDamagedImage(TourHands& hands)
+{
+    return LoadBadImage(hands, hands.DemoFile(QStringLiteral("demo-flag.obj")));
+}
+
+QString SaveImageNowhere(TourHands& hands)
+{
+    hands.App().Answers().AddFile(hands.FileInFolder(QStringLiteral("missing/weights.png")));
+    hands.ExpectMessages(1);
+    const QString problem = hands.Click("qtSaveFilePushButton", dialogForm);
+    return problem.isEmpty() ? hands.CheckCalled("SaveWeightImage") : problem;
 }
 
 QString EmbedImage(TourHands& hands)
@@ -114,6 +152,9 @@ std::vector<TourStep> WeightSteps(TourHands& hands)
         {"dialog-opened", [&hands] { return OpenDialog(hands); }},
         {"material-chosen", [&hands] { return ChooseMaterial(hands); }},
         {"weight-image-loaded", [&hands] { return LoadImage(hands); }},
+        {"black-image-refused", [&hands] { return LoadBlackImage(hands); }},
+        {"damaged-image-refused", [&hands] { return LoadDamagedImage(hands); }},
+        {"image-saved-nowhere", [&hands] { return SaveImageNowhere(hands); }},
         {"weight-image-embedded", [&hands] { return EmbedImage(hands); }},
         {"brightness-changed", [&hands] { return ChangeBrightness(hands); }},
         {"table-narrowed", [&hands] { return NarrowTable(hands); }},
