@@ -4,16 +4,31 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QSettings>
+#include <QVariant>
+
+#include <iterator>
 
 namespace Host {
 
 namespace {
 
-const QString settingsKey = QStringLiteral("recentFiles");
+const QString filesKey = QStringLiteral("recentFiles");
+const QString unitsKey = QStringLiteral("recentFileUnits");
 
-void Store(const QStringList& files)
+QVariantMap Units()
 {
-    QSettings().setValue(settingsKey, files);
+    return QSettings().value(unitsKey).toMap();
+}
+
+/// \param units  of files that may be in the list no more
+void Store(const QStringList& files, QVariantMap units = Units())
+{
+    for (auto unit = units.begin(); unit != units.end();) {
+        unit = files.contains(unit.key()) ? std::next(unit) : units.erase(unit);
+    }
+    QSettings settings;
+    settings.setValue(filesKey, files);
+    settings.setValue(unitsKey, units);
 }
 
 QString NativePath(const QString& path)
@@ -35,16 +50,23 @@ void RecentFiles::ShowIn(QMenu* menu)
 
 QStringList RecentFiles::Files()
 {
-    return QSettings().value(settingsKey).toStringList();
+    return QSettings().value(filesKey).toStringList();
 }
 
-void RecentFiles::Add(const QString& path)
+QString RecentFiles::UnitOf(const QString& path)
+{
+    return Units().value(QFileInfo(path).absoluteFilePath()).toString();
+}
+
+void RecentFiles::Add(const QString& path, const QString& unit)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     QStringList files = Files();
     files.removeAll(absolute);
     files.prepend(absolute);
-    Store(files.mid(0, most));
+    QVariantMap units = Units();
+    units.insert(absolute, unit);
+    Store(files.mid(0, most), units);
 }
 
 void RecentFiles::Remove(const QString& path)

@@ -23,7 +23,10 @@ public:
     /// The files, as absolute paths.
     static QStringList Files();
     /// \p path was opened or saved.
-    static void Add(const QString& path);
+    /// \param unit  the one in which the user said that the model was made; empty for none
+    static void Add(const QString& path, const QString& unit = {});
+    /// The unit that came with \p path; empty for none.
+    static QString UnitOf(const QString& path);
     /// \p path cannot be opened any more.
     static void Remove(const QString& path);
     static void Clear();

@@ -1,6 +1,5 @@
 #include "host/workbench/window/SceneFiles.h"
 
-#include "host/import/ModelImport.h"
 #include "host/scene/SceneFile.h"
 #include "host/services/HostApplication.h"
 #include "host/services/UserDialogs.h"
@@ -10,7 +9,6 @@
 
 #include <QApplication>
 #include <QDropEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
@@ -78,17 +76,16 @@ void SceneFiles::CreateMenu()
 bool SceneFiles::Import(const QString& path, const std::optional<LengthUnit>& unit)
 {
     const bool isFirst = m_scenePath.isEmpty() && m_host.CurrentScene().Objects().empty();
-    QProgressDialog progress(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100, &m_window);
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(500);
-    const auto report = [&progress](double done) {
-        progress.setValue(int(done * 100));
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        return !progress.wasCanceled();
-    };
-    const auto chooseUnit = [&](double size) { return unit ? unit : ChooseUnit(QFileInfo(path).fileName(), size); };
-    ImportResult result = Host::ImportModel(path, report, chooseUnit);
-    progress.reset();
+    QString unitKey;
+    const QPointer<SceneFiles> self = this;
+    ImportResult result = Read(path, [&](double size) {
+        const auto chosen = unit || !self ? unit : ChooseUnit(QFileInfo(path).fileName(), size);
+        unitKey = chosen ? chosen->key : QString();
+        return chosen;
+    });
+    if (!self) {
+        return false;
+    }
     if (result.cancelled) {
         Q_EMIT Done(tr("Import cancelled"));
         return false;
@@ -105,8 +102,29 @@ bool SceneFiles::Import(const QString& path, const std::optional<LengthUnit>& un
     if (isFirst) {
         m_host.CurrentScene().UndoStack().setClean();
     }
-    Remember(path);
+    Remember(path, unitKey);
     return true;
+}
+
+/// Reads a model behind a progress dialog. Events are handled meanwhile: the window may be closed, and this destroyed,
+/// which cancels.
+ImportResult SceneFiles::Read(const QString& path, const UnitChoice& unit)
+{
+    // On the heap and watched: the window that is destroyed frees it.
+    const QPointer<QProgressDialog> progress =
+        new QProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100, &m_window);
+    progress->setWindowModality(Qt::WindowModal);
+    progress->setMinimumDuration(500);
+    const auto report = [&progress](double done) {
+        if (progress) {
+            progress->setValue(int(done * 100));
+        }
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        return progress && !progress->wasCanceled();
+    };
+    ImportResult result = Host::ImportModel(path, report, unit);
+    delete progress;
+    return result;
 }
 
 /// With nobody to ask it is what it looks like.
@@ -159,15 +177,14 @@ bool SceneFiles::OpenOrImport(const QString& path)
     if (!QFileInfo::exists(path)) {
         RecentFiles::Remove(path);
     }
-    return IsSceneFile(path) ? MayDiscard() && Open(path) : Import(path);
+    return IsSceneFile(path) ? MayDiscard() && Open(path) : Import(path, UnitCalled(RecentFiles::UnitOf(path)));
 }
 
 void SceneFiles::ChooseModel()
 {
     CommitFocusedEditor();
     const QString suffixes = ImportableSuffixes().join(QLatin1String(" *."));
-    const QString path =
-        QFileDialog::getOpenFileName(&m_window, tr("Import Model"), {}, tr("Models (*.%1)").arg(suffixes));
+    const QString path = AskForFile(&m_window, {tr("Import Model"), tr("Models (*.%1)").arg(suffixes), false, {}, {}});
     if (!path.isEmpty()) {
         Import(path);
     }
@@ -178,7 +195,7 @@ void SceneFiles::ChooseScene()
     if (!MayDiscard()) {
         return;
     }
-    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open Scene"), m_scenePath, SceneFilter());
+    const QString path = AskForFile(&m_window, {tr("Open Scene"), SceneFilter(), false, {}, m_scenePath});
     if (!path.isEmpty()) {
         Open(path);
     }
@@ -193,10 +210,9 @@ bool SceneFiles::SaveOrChoose()
 bool SceneFiles::ChooseAndSave()
 {
     CommitFocusedEditor();
-    QFileDialog dialog(&m_window, tr("Save Scene"), m_scenePath, SceneFilter());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("clothscene"));
-    return dialog.exec() == QDialog::Accepted && Save(dialog.selectedFiles().constFirst());
+    const QString path =
+        AskForFile(&m_window, {tr("Save Scene"), SceneFilter(), true, QStringLiteral("clothscene"), m_scenePath});
+    return !path.isEmpty() && Save(path);
 }
 
 bool SceneFiles::MayDiscard()
@@ -224,10 +240,20 @@ void SceneFiles::TakeOver(const SceneFiles& old)
     ShowTitle();
 }
 
-void SceneFiles::Remember(const QString& path) const
+void SceneFiles::Remember(const QString& path, const QString& unit) const
 {
     if (!m_unattended) {
-        RecentFiles::Add(path);
+        RecentFiles::Add(path, unit);
+    }
+}
+
+void SceneFiles::OpenDropped(const QStringList& files)
+{
+    const QPointer<SceneFiles> self = this;
+    for (const QString& file : files) {
+        if (self) {
+            OpenOrImport(file);
+        }
     }
 }
 
@@ -256,11 +282,7 @@ bool SceneFiles::eventFilter(QObject* watched, QEvent* event)
         drop->acceptProposedAction();
         if (event->type() == QEvent::Drop) {
             // The program that the files come from waits until this returns.
-            QTimer::singleShot(0, this, [this, files] {
-                for (const QString& file : files) {
-                    OpenOrImport(file);
-                }
-            });
+            QTimer::singleShot(0, this, [this, files] { OpenDropped(files); });
         }
         return true;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/import/ModelImport.h"
 #include "host/import/Units.h"
 #include "host/workbench/window/RecentFiles.h"
 
@@ -35,7 +36,8 @@ public:
     /// \return false, after Failed(), when it cannot be written
     bool Save(const QString& path);
     void New();
-    /// Opens a scene, after asking about the current one, or imports a model.
+    /// Opens a scene, after asking about the current one, or imports a model, in the unit that was chosen for it
+    /// before.
     bool OpenOrImport(const QString& path);
 
     /// Lets the user save changes that are not saved. \return false when the user would rather stay
@@ -62,10 +64,12 @@ private:
     void CreateMenu();
     void ChooseModel();
     std::optional<LengthUnit> ChooseUnit(const QString& file, double size);
+    void OpenDropped(const QStringList& files);
     void ChooseScene();
     bool SaveOrChoose();
     bool ChooseAndSave();
-    void Remember(const QString& path) const;
+    ImportResult Read(const QString& path, const UnitChoice& unit);
+    void Remember(const QString& path, const QString& unit = {}) const;
     void ConnectScene();
     void ShowTitle();
 

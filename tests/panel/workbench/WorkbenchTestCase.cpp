@@ -1,8 +1,12 @@
 #include "tests/panel/workbench/WorkbenchTestCase.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDialog>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QSettings>
+#include <QUrl>
 
 void WorkbenchTestCase::SetUp()
 {
@@ -50,6 +54,25 @@ Host::Object& WorkbenchTestCase::AddCloth(Host::Object object)
 Host::ClothState& WorkbenchTestCase::Cloth(const Host::Object& object, std::size_t index) const
 {
     return CurrentScene().FindSlot(Host::Scene::SlotsOf(object).at(index))->cloth;
+}
+
+bool WorkbenchTestCase::Drop(QWidget& target, const QStringList& files)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& file : files) {
+        urls.append(QUrl::fromLocalFile(file));
+    }
+    data.setUrls(urls);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(&target, &enter);
+    if (!enter.isAccepted()) {
+        return false;
+    }
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &drop);
+    return drop.isAccepted();
 }
 
 void WorkbenchTestCase::Trigger(const char* action) const

@@ -22,6 +22,10 @@ protected:
     /// A new window with the same settings, with somebody to click, shown and active.
     void OpenWindow();
 
+    /// Ends the window, whatever it has open.
+    void EndWindow() { m_window.reset(); }
+    bool HasWindow() const { return m_window != nullptr; }
+
     Host::MainWindow& Window() const { return *m_window; }
     Host::HostApplication& App() const { return m_window->Application(); }
     Host::Scene& CurrentScene() const { return App().CurrentScene(); }
@@ -31,6 +35,9 @@ protected:
     Host::Object& AddCloth(Host::Object object);
     /// The cloth of \p object's slot number \p index, over all its meshes.
     Host::ClothState& Cloth(const Host::Object& object, std::size_t index = 0) const;
+
+    /// Drops \p files on \p target. \return whether it takes them
+    static bool Drop(QWidget& target, const QStringList& files);
 
     void Trigger(const char* action) const;
     void ClickRow(QTreeWidgetItem* row) const;

@@ -7,11 +7,9 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTimer>
 
@@ -34,13 +32,15 @@ private Q_SLOTS:
     void recentFilesAreFew();
     void modelWithoutAUnitAsksForIt_data();
     void modelWithoutAUnitAsksForIt();
+    void recentModelKeepsItsUnit();
     void droppedModelIsImported();
     void droppedSceneIsOpened();
     void otherDropsAreRefused();
     void imageDroppedOnTheThumbnailIsLoaded();
 
 private:
-    static bool Drop(QWidget& target, const QString& file);
+    /// Height of the only object, in centimetres.
+    float Height() const;
     /// Types a mass without committing it.
     void TypeMass(const char* text) const;
     bool AsksOnClose() const
@@ -49,19 +49,17 @@ private:
     }
 };
 
-bool TestWorkbenchFiles::Drop(QWidget& target, const QString& file)
+float TestWorkbenchFiles::Height() const
 {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(file)});
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    enter.ignore();
-    QApplication::sendEvent(&target, &enter);
-    if (!enter.isAccepted()) {
-        return false;
+    float low = 0.0F;
+    float high = 0.0F;
+    for (const Host::Mesh& mesh : CurrentScene().Objects().front()->meshes) {
+        for (const QVector3D& position : mesh.positions) {
+            low = qMin(low, position.y());
+            high = qMax(high, position.y());
+        }
     }
-    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&target, &drop);
-    return drop.isAccepted();
+    return high - low;
 }
 
 void TestWorkbenchFiles::TypeMass(const char* text) const
@@ -235,21 +233,31 @@ void TestWorkbenchFiles::modelWithoutAUnitAsksForIt()
     QVERIFY(asked);
     QCOMPARE(CurrentScene().Objects().size(), std::size_t(height > 0.0F ? 1 : 0));
     if (height > 0.0F) {
-        float low = 0.0F;
-        float high = 0.0F;
-        for (const Host::Mesh& mesh : CurrentScene().Objects().front()->meshes) {
-            for (const QVector3D& position : mesh.positions) {
-                low = qMin(low, position.y());
-                high = qMax(high, position.y());
-            }
-        }
-        QVERIFY2(qAbs(high - low - height) < 0.01F * height, qPrintable(QString::number(double(high - low))));
+        QVERIFY2(qAbs(Height() - height) < 0.01F * height, qPrintable(QString::number(double(Height()))));
     }
+}
+
+void TestWorkbenchFiles::recentModelKeepsItsUnit()
+{
+    const QString model = SampleModels::RealModel(QStringLiteral("OBJ/spider.obj"));
+    QVERIFY(Window().ImportModel(model, Host::UnitCalled(QStringLiteral("in"))));
+    const float height = Height();
+    OpenWindow();
+    auto* menu = Child<QMenu>(&Window(), "recentMenu");
+    Q_EMIT menu->aboutToShow();
+    QVERIFY(!UserDialogs::OpensDialog([menu] { menu->actions().at(0)->trigger(); }));
+    QCOMPARE(Height(), height);
+    // What is imported by its own command is asked for again, and the later answer counts.
+    QVERIFY(UserDialogs::OpensDialog([this, &model] { Window().ImportModel(model); }));
+    QVERIFY(Window().ImportModel(model, Host::UnitCalled(QStringLiteral("m"))));
+    QCOMPARE(Host::RecentFiles::UnitOf(model), QStringLiteral("m"));
+    Host::RecentFiles::Remove(model);
+    QCOMPARE(Host::RecentFiles::UnitOf(model), QString());
 }
 
 void TestWorkbenchFiles::droppedModelIsImported()
 {
-    QVERIFY(Drop(Window(), SampleModels::RealModel(QStringLiteral("FBX/spider.fbx"))));
+    QVERIFY(Drop(Window(), {SampleModels::RealModel(QStringLiteral("FBX/spider.fbx"))}));
     QTRY_COMPARE(CurrentScene().Objects().size(), std::size_t(1));
 }
 
@@ -260,7 +268,7 @@ void TestWorkbenchFiles::droppedSceneIsOpened()
     const QString file = folder.filePath(QStringLiteral("flag.clothscene"));
     QVERIFY(Window().SaveScene(file));
     AddCloth(SampleModels::Hero());
-    QVERIFY(Drop(Window(), file));
+    QVERIFY(Drop(Window(), {file}));
     QTRY_COMPARE(CurrentScene().Objects().size(), std::size_t(1));
 }
 
@@ -269,7 +277,7 @@ void TestWorkbenchFiles::otherDropsAreRefused()
     const QTemporaryDir folder;
     const QString image =
         SampleImages::WriteImage(folder.filePath(QStringLiteral("a.png")), SampleImages::Filled({4, 4}, Qt::white));
-    QVERIFY(!Drop(Window(), image));
+    QVERIFY(!Drop(Window(), {image}));
 }
 
 void TestWorkbenchFiles::imageDroppedOnTheThumbnailIsLoaded()
@@ -279,7 +287,7 @@ void TestWorkbenchFiles::imageDroppedOnTheThumbnailIsLoaded()
     const QString image =
         SampleImages::WriteImage(folder.filePath(QStringLiteral("a.png")), SampleImages::Filled({4, 4}, Qt::white));
     OpenDialog();
-    QVERIFY(Drop(*Child<QWidget>(&Window(), "qtWeightingItemLabel"), image));
+    QVERIFY(Drop(*Child<QWidget>(&Window(), "qtWeightingItemLabel"), {image}));
     QTRY_COMPARE(Cloth(flag).weight.image.filePath, image);
 }
 
