@@ -282,48 +282,48 @@
         <translation>Die Anwendung, in der das Plug-in läuft. Eine andere Wahl startet das Plug-in neu.</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Familie</translation>
+        <source>Family</source>
+        <translation>Familie</translation>
     </message>
     <message>
         <source>Physics engine of the scene. The panel is shown for engine 1 only.</source>
         <translation>Physik-Engine der Szene. Das Bedienfeld wird nur bei Engine 1 gezeigt.</translation>
     </message>
     <message>
-        <source>&amp;Engine</source>
-        <translation>&amp;Engine</translation>
+        <source>Engine</source>
+        <translation>Engine</translation>
     </message>
     <message>
         <source>Selected object</source>
         <translation>Ausgewähltes Objekt</translation>
     </message>
     <message>
-        <source>&amp;Soft cloth physics</source>
-        <translation>Physik des &amp;weichen Stoffs</translation>
+        <source>Soft cloth physics</source>
+        <translation>Physik des weichen Stoffs</translation>
     </message>
     <message>
         <source>Switches soft cloth physics of the object, as the host&apos;s own menus would</source>
         <translation>Schaltet die Physik des weichen Stoffs für das Objekt, wie es die Menüs des Hosts täten</translation>
     </message>
     <message>
-        <source>&amp;Type</source>
-        <translation>&amp;Typ</translation>
+        <source>Type</source>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Type code. Shown types: 1 to 6, 30 to 34, 38, 39, 51 to 53. Types 5 and 6 can be converted.</source>
         <translation>Typnummer. Gezeigte Typen: 1 bis 6, 30 bis 34, 38, 39, 51 bis 53. Die Typen 5 und 6 können umgewandelt werden.</translation>
     </message>
     <message>
-        <source>&amp;Kind</source>
-        <translation>A&amp;rt</translation>
+        <source>Kind</source>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Kind code. Kind 14 has no choice of rigid body or soft cloth.</source>
         <translation>Artnummer. Art 14 hat keine Wahl zwischen starrem Körper und weichem Stoff.</translation>
     </message>
     <message>
-        <source>&amp;Convert state</source>
-        <translation>&amp;Umwandlung</translation>
+        <source>Convert state</source>
+        <translation>Umwandlung</translation>
     </message>
     <message>
         <source>3 is at rest; another state of a type 5 or 6 object hides the panel in family A</source>
@@ -358,8 +358,8 @@
         <translation>Ein anderer (7)</translation>
     </message>
     <message>
-        <source>&amp;Dialog mode</source>
-        <translation>D&amp;ialogmodus</translation>
+        <source>Dialog mode</source>
+        <translation>Dialogmodus</translation>
     </message>
     <message>
         <source>Material (7)</source>
@@ -370,12 +370,12 @@
         <translation>Ein anderer (3)</translation>
     </message>
     <message>
-        <source>&amp;Pick mode</source>
-        <translation>Aufnahme&amp;modus</translation>
+        <source>Pick mode</source>
+        <translation>Aufnahmemodus</translation>
     </message>
     <message>
-        <source>P&amp;laying</source>
-        <translation>Wiederga&amp;be</translation>
+        <source>Playing</source>
+        <translation>Wiedergabe</translation>
     </message>
     <message>
         <source>Events by hand</source>
@@ -406,8 +406,8 @@
         <translation>Meldet, dass sich die Daten der ausgewählten Objekte geändert haben</translation>
     </message>
     <message>
-        <source>D&amp;ata changed</source>
-        <translation>Date&amp;n geändert</translation>
+        <source>Data changed</source>
+        <translation>Daten geändert</translation>
     </message>
     <message>
         <source>Sends this event to the plug-in</source>
@@ -446,16 +446,16 @@
         <translation>Operation des Hosts, die scheitern soll, mit ihrem Namen in den Host-Aufrufen</translation>
     </message>
     <message>
-        <source>&amp;Operation</source>
-        <translation>&amp;Operation</translation>
+        <source>Operation</source>
+        <translation>Operation</translation>
     </message>
     <message>
         <source>Status that the failing call answers</source>
         <translation>Status, den der scheiternde Aufruf zurückgibt</translation>
     </message>
     <message>
-        <source>Stat&amp;us</source>
-        <translation>&amp;Status</translation>
+        <source>Status</source>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Let it fail</source>

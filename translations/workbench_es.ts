@@ -282,48 +282,48 @@
         <translation>La aplicación en la que se ejecuta el complemento. Otra elección reinicia el complemento.</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Familia</translation>
+        <source>Family</source>
+        <translation>Familia</translation>
     </message>
     <message>
         <source>Physics engine of the scene. The panel is shown for engine 1 only.</source>
         <translation>Motor de física de la escena. El panel solo se muestra con el motor 1.</translation>
     </message>
     <message>
-        <source>&amp;Engine</source>
-        <translation>&amp;Motor</translation>
+        <source>Engine</source>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>Selected object</source>
         <translation>Objeto seleccionado</translation>
     </message>
     <message>
-        <source>&amp;Soft cloth physics</source>
-        <translation>Física de tela &amp;suave</translation>
+        <source>Soft cloth physics</source>
+        <translation>Física de tela suave</translation>
     </message>
     <message>
         <source>Switches soft cloth physics of the object, as the host&apos;s own menus would</source>
         <translation>Activa o desactiva la física de tela suave del objeto, como lo harían los menús del anfitrión</translation>
     </message>
     <message>
-        <source>&amp;Type</source>
-        <translation>&amp;Tipo</translation>
+        <source>Type</source>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Type code. Shown types: 1 to 6, 30 to 34, 38, 39, 51 to 53. Types 5 and 6 can be converted.</source>
         <translation>Código de tipo. Tipos mostrados: 1 a 6, 30 a 34, 38, 39, 51 a 53. Los tipos 5 y 6 se pueden convertir.</translation>
     </message>
     <message>
-        <source>&amp;Kind</source>
-        <translation>&amp;Clase</translation>
+        <source>Kind</source>
+        <translation>Clase</translation>
     </message>
     <message>
         <source>Kind code. Kind 14 has no choice of rigid body or soft cloth.</source>
         <translation>Código de clase. La clase 14 no permite elegir entre cuerpo rígido y tela suave.</translation>
     </message>
     <message>
-        <source>&amp;Convert state</source>
-        <translation>Con&amp;versión</translation>
+        <source>Convert state</source>
+        <translation>Conversión</translation>
     </message>
     <message>
         <source>3 is at rest; another state of a type 5 or 6 object hides the panel in family A</source>
@@ -358,8 +358,8 @@
         <translation>Otro (7)</translation>
     </message>
     <message>
-        <source>&amp;Dialog mode</source>
-        <translation>Modo de &amp;diálogo</translation>
+        <source>Dialog mode</source>
+        <translation>Modo de diálogo</translation>
     </message>
     <message>
         <source>Material (7)</source>
@@ -370,12 +370,12 @@
         <translation>Otro (3)</translation>
     </message>
     <message>
-        <source>&amp;Pick mode</source>
-        <translation>Modo de se&amp;lección</translation>
+        <source>Pick mode</source>
+        <translation>Modo de selección</translation>
     </message>
     <message>
-        <source>P&amp;laying</source>
-        <translation>Re&amp;producción</translation>
+        <source>Playing</source>
+        <translation>Reproducción</translation>
     </message>
     <message>
         <source>Events by hand</source>
@@ -406,8 +406,8 @@
         <translation>Avisa de que han cambiado los datos de los objetos seleccionados</translation>
     </message>
     <message>
-        <source>D&amp;ata changed</source>
-        <translation>D&amp;atos cambiados</translation>
+        <source>Data changed</source>
+        <translation>Datos cambiados</translation>
     </message>
     <message>
         <source>Sends this event to the plug-in</source>
@@ -446,16 +446,16 @@
         <translation>Operación del anfitrión que debe fallar, con el nombre que le da la lista de llamadas</translation>
     </message>
     <message>
-        <source>&amp;Operation</source>
-        <translation>&amp;Operación</translation>
+        <source>Operation</source>
+        <translation>Operación</translation>
     </message>
     <message>
         <source>Status that the failing call answers</source>
         <translation>Estado que devuelve la llamada que falla</translation>
     </message>
     <message>
-        <source>Stat&amp;us</source>
-        <translation>&amp;Estado</translation>
+        <source>Status</source>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Let it fail</source>

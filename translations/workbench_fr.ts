@@ -282,48 +282,48 @@
         <translation>L’application dans laquelle tourne le plug-in. Un autre choix redémarre le plug-in.</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Famille</translation>
+        <source>Family</source>
+        <translation>Famille</translation>
     </message>
     <message>
         <source>Physics engine of the scene. The panel is shown for engine 1 only.</source>
         <translation>Moteur physique de la scène. Le panneau n’est montré qu’avec le moteur 1.</translation>
     </message>
     <message>
-        <source>&amp;Engine</source>
-        <translation>&amp;Moteur</translation>
+        <source>Engine</source>
+        <translation>Moteur</translation>
     </message>
     <message>
         <source>Selected object</source>
         <translation>Objet sélectionné</translation>
     </message>
     <message>
-        <source>&amp;Soft cloth physics</source>
-        <translation>Physique du tissu &amp;souple</translation>
+        <source>Soft cloth physics</source>
+        <translation>Physique du tissu souple</translation>
     </message>
     <message>
         <source>Switches soft cloth physics of the object, as the host&apos;s own menus would</source>
         <translation>Active ou désactive la physique de tissu souple de l’objet, comme le feraient les menus de l’hôte</translation>
     </message>
     <message>
-        <source>&amp;Type</source>
-        <translation>&amp;Type</translation>
+        <source>Type</source>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Type code. Shown types: 1 to 6, 30 to 34, 38, 39, 51 to 53. Types 5 and 6 can be converted.</source>
         <translation>Code du type. Types montrés : 1 à 6, 30 à 34, 38, 39, 51 à 53. Les types 5 et 6 peuvent être convertis.</translation>
     </message>
     <message>
-        <source>&amp;Kind</source>
-        <translation>&amp;Genre</translation>
+        <source>Kind</source>
+        <translation>Genre</translation>
     </message>
     <message>
         <source>Kind code. Kind 14 has no choice of rigid body or soft cloth.</source>
         <translation>Code du genre. Le genre 14 n’a pas le choix entre corps rigide et tissu souple.</translation>
     </message>
     <message>
-        <source>&amp;Convert state</source>
-        <translation>&amp;Conversion</translation>
+        <source>Convert state</source>
+        <translation>Conversion</translation>
     </message>
     <message>
         <source>3 is at rest; another state of a type 5 or 6 object hides the panel in family A</source>
@@ -358,8 +358,8 @@
         <translation>Un autre (7)</translation>
     </message>
     <message>
-        <source>&amp;Dialog mode</source>
-        <translation>Mode &amp;dialogue</translation>
+        <source>Dialog mode</source>
+        <translation>Mode dialogue</translation>
     </message>
     <message>
         <source>Material (7)</source>
@@ -370,12 +370,12 @@
         <translation>Un autre (3)</translation>
     </message>
     <message>
-        <source>&amp;Pick mode</source>
-        <translation>Mode &amp;prélèvement</translation>
+        <source>Pick mode</source>
+        <translation>Mode prélèvement</translation>
     </message>
     <message>
-        <source>P&amp;laying</source>
-        <translation>&amp;Lecture</translation>
+        <source>Playing</source>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>Events by hand</source>
@@ -406,8 +406,8 @@
         <translation>Signale que les données des objets sélectionnés ont changé</translation>
     </message>
     <message>
-        <source>D&amp;ata changed</source>
-        <translation>Don&amp;nées changées</translation>
+        <source>Data changed</source>
+        <translation>Données changées</translation>
     </message>
     <message>
         <source>Sends this event to the plug-in</source>
@@ -446,16 +446,16 @@
         <translation>Opération de l’hôte qui doit échouer, comme la nomme la vue des appels</translation>
     </message>
     <message>
-        <source>&amp;Operation</source>
-        <translation>&amp;Opération</translation>
+        <source>Operation</source>
+        <translation>Opération</translation>
     </message>
     <message>
         <source>Status that the failing call answers</source>
         <translation>Statut que renvoie l’appel en échec</translation>
     </message>
     <message>
-        <source>Stat&amp;us</source>
-        <translation>Stat&amp;ut</translation>
+        <source>Status</source>
+        <translation>Statut</translation>
     </message>
     <message>
         <source>Let it fail</source>

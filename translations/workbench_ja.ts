@@ -282,48 +282,48 @@
         <translation>プラグインを実行するアプリケーション。変更するとプラグインが再起動します。</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>ファミリー(&amp;F)</translation>
+        <source>Family</source>
+        <translation>ファミリー</translation>
     </message>
     <message>
         <source>Physics engine of the scene. The panel is shown for engine 1 only.</source>
         <translation>シーンの物理エンジン。パネルはエンジン 1 でのみ表示されます。</translation>
     </message>
     <message>
-        <source>&amp;Engine</source>
-        <translation>エンジン(&amp;E)</translation>
+        <source>Engine</source>
+        <translation>エンジン</translation>
     </message>
     <message>
         <source>Selected object</source>
         <translation>選択したオブジェクト</translation>
     </message>
     <message>
-        <source>&amp;Soft cloth physics</source>
-        <translation>ソフトクロス物理(&amp;S)</translation>
+        <source>Soft cloth physics</source>
+        <translation>ソフトクロス物理</translation>
     </message>
     <message>
         <source>Switches soft cloth physics of the object, as the host&apos;s own menus would</source>
         <translation>ホストのメニューと同じように、オブジェクトのソフトクロス物理を切り替えます</translation>
     </message>
     <message>
-        <source>&amp;Type</source>
-        <translation>タイプ(&amp;T)</translation>
+        <source>Type</source>
+        <translation>タイプ</translation>
     </message>
     <message>
         <source>Type code. Shown types: 1 to 6, 30 to 34, 38, 39, 51 to 53. Types 5 and 6 can be converted.</source>
         <translation>タイプ番号。表示されるタイプ: 1 ～ 6、30 ～ 34、38、39、51 ～ 53。タイプ 5 と 6 は変換できます。</translation>
     </message>
     <message>
-        <source>&amp;Kind</source>
-        <translation>種類(&amp;K)</translation>
+        <source>Kind</source>
+        <translation>種類</translation>
     </message>
     <message>
         <source>Kind code. Kind 14 has no choice of rigid body or soft cloth.</source>
         <translation>種類の番号。種類 14 では剛体とソフトクロスを選べません。</translation>
     </message>
     <message>
-        <source>&amp;Convert state</source>
-        <translation>変換状態(&amp;C)</translation>
+        <source>Convert state</source>
+        <translation>変換状態</translation>
     </message>
     <message>
         <source>3 is at rest; another state of a type 5 or 6 object hides the panel in family A</source>
@@ -358,8 +358,8 @@
         <translation>その他 (7)</translation>
     </message>
     <message>
-        <source>&amp;Dialog mode</source>
-        <translation>ダイアログモード(&amp;D)</translation>
+        <source>Dialog mode</source>
+        <translation>ダイアログモード</translation>
     </message>
     <message>
         <source>Material (7)</source>
@@ -370,12 +370,12 @@
         <translation>その他 (3)</translation>
     </message>
     <message>
-        <source>&amp;Pick mode</source>
-        <translation>ピックモード(&amp;P)</translation>
+        <source>Pick mode</source>
+        <translation>ピックモード</translation>
     </message>
     <message>
-        <source>P&amp;laying</source>
-        <translation>再生中(&amp;L)</translation>
+        <source>Playing</source>
+        <translation>再生中</translation>
     </message>
     <message>
         <source>Events by hand</source>
@@ -406,8 +406,8 @@
         <translation>選択したオブジェクトのデータの変更を通知します</translation>
     </message>
     <message>
-        <source>D&amp;ata changed</source>
-        <translation>データの変更(&amp;A)</translation>
+        <source>Data changed</source>
+        <translation>データの変更</translation>
     </message>
     <message>
         <source>Sends this event to the plug-in</source>
@@ -446,16 +446,16 @@
         <translation>失敗させるホストの操作 (ホスト呼び出しの表示名)</translation>
     </message>
     <message>
-        <source>&amp;Operation</source>
-        <translation>操作(&amp;O)</translation>
+        <source>Operation</source>
+        <translation>操作</translation>
     </message>
     <message>
         <source>Status that the failing call answers</source>
         <translation>失敗した呼び出しが返すステータス</translation>
     </message>
     <message>
-        <source>Stat&amp;us</source>
-        <translation>ステータス(&amp;U)</translation>
+        <source>Status</source>
+        <translation>ステータス</translation>
     </message>
     <message>
         <source>Let it fail</source>

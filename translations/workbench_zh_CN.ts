@@ -282,48 +282,48 @@
         <translation>运行插件的应用程序。更改后会重新启动插件。</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>系列(&amp;F)</translation>
+        <source>Family</source>
+        <translation>系列</translation>
     </message>
     <message>
         <source>Physics engine of the scene. The panel is shown for engine 1 only.</source>
         <translation>场景的物理引擎。面板只在引擎 1 下显示。</translation>
     </message>
     <message>
-        <source>&amp;Engine</source>
-        <translation>引擎(&amp;E)</translation>
+        <source>Engine</source>
+        <translation>引擎</translation>
     </message>
     <message>
         <source>Selected object</source>
         <translation>所选对象</translation>
     </message>
     <message>
-        <source>&amp;Soft cloth physics</source>
-        <translation>柔性布料物理(&amp;S)</translation>
+        <source>Soft cloth physics</source>
+        <translation>柔性布料物理</translation>
     </message>
     <message>
         <source>Switches soft cloth physics of the object, as the host&apos;s own menus would</source>
         <translation>如同主程序自己的菜单一样，切换对象的柔性布料物理</translation>
     </message>
     <message>
-        <source>&amp;Type</source>
-        <translation>类型(&amp;T)</translation>
+        <source>Type</source>
+        <translation>类型</translation>
     </message>
     <message>
         <source>Type code. Shown types: 1 to 6, 30 to 34, 38, 39, 51 to 53. Types 5 and 6 can be converted.</source>
         <translation>类型代码。显示的类型：1 到 6、30 到 34、38、39、51 到 53。类型 5 和 6 可以转换。</translation>
     </message>
     <message>
-        <source>&amp;Kind</source>
-        <translation>种类(&amp;K)</translation>
+        <source>Kind</source>
+        <translation>种类</translation>
     </message>
     <message>
         <source>Kind code. Kind 14 has no choice of rigid body or soft cloth.</source>
         <translation>种类代码。种类 14 不能选择刚体或柔性布料。</translation>
     </message>
     <message>
-        <source>&amp;Convert state</source>
-        <translation>转换状态(&amp;C)</translation>
+        <source>Convert state</source>
+        <translation>转换状态</translation>
     </message>
     <message>
         <source>3 is at rest; another state of a type 5 or 6 object hides the panel in family A</source>
@@ -358,8 +358,8 @@
         <translation>其他 (7)</translation>
     </message>
     <message>
-        <source>&amp;Dialog mode</source>
-        <translation>对话框模式(&amp;D)</translation>
+        <source>Dialog mode</source>
+        <translation>对话框模式</translation>
     </message>
     <message>
         <source>Material (7)</source>
@@ -370,12 +370,12 @@
         <translation>其他 (3)</translation>
     </message>
     <message>
-        <source>&amp;Pick mode</source>
-        <translation>选取模式(&amp;P)</translation>
+        <source>Pick mode</source>
+        <translation>选取模式</translation>
     </message>
     <message>
-        <source>P&amp;laying</source>
-        <translation>正在播放(&amp;L)</translation>
+        <source>Playing</source>
+        <translation>正在播放</translation>
     </message>
     <message>
         <source>Events by hand</source>
@@ -406,8 +406,8 @@
         <translation>通知所选对象的数据已更改</translation>
     </message>
     <message>
-        <source>D&amp;ata changed</source>
-        <translation>数据更改(&amp;A)</translation>
+        <source>Data changed</source>
+        <translation>数据更改</translation>
     </message>
     <message>
         <source>Sends this event to the plug-in</source>
@@ -446,16 +446,16 @@
         <translation>要失败的主程序操作，名称与主程序调用列表中相同</translation>
     </message>
     <message>
-        <source>&amp;Operation</source>
-        <translation>操作(&amp;O)</translation>
+        <source>Operation</source>
+        <translation>操作</translation>
     </message>
     <message>
         <source>Status that the failing call answers</source>
         <translation>失败的调用返回的状态</translation>
     </message>
     <message>
-        <source>Stat&amp;us</source>
-        <translation>状态(&amp;U)</translation>
+        <source>Status</source>
+        <translation>状态</translation>
     </message>
     <message>
         <source>Let it fail</source>

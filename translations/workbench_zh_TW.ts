@@ -282,48 +282,48 @@
         <translation>執行外掛程式的應用程式。變更後會重新啟動外掛程式。</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>系列(&amp;F)</translation>
+        <source>Family</source>
+        <translation>系列</translation>
     </message>
     <message>
         <source>Physics engine of the scene. The panel is shown for engine 1 only.</source>
         <translation>場景的物理引擎。面板只在引擎 1 下顯示。</translation>
     </message>
     <message>
-        <source>&amp;Engine</source>
-        <translation>引擎(&amp;E)</translation>
+        <source>Engine</source>
+        <translation>引擎</translation>
     </message>
     <message>
         <source>Selected object</source>
         <translation>所選物件</translation>
     </message>
     <message>
-        <source>&amp;Soft cloth physics</source>
-        <translation>柔體布料物理(&amp;S)</translation>
+        <source>Soft cloth physics</source>
+        <translation>柔體布料物理</translation>
     </message>
     <message>
         <source>Switches soft cloth physics of the object, as the host&apos;s own menus would</source>
         <translation>如同主程式自己的選單，切換物件的柔體布料物理</translation>
     </message>
     <message>
-        <source>&amp;Type</source>
-        <translation>類型(&amp;T)</translation>
+        <source>Type</source>
+        <translation>類型</translation>
     </message>
     <message>
         <source>Type code. Shown types: 1 to 6, 30 to 34, 38, 39, 51 to 53. Types 5 and 6 can be converted.</source>
         <translation>類型代碼。顯示的類型：1 到 6、30 到 34、38、39、51 到 53。類型 5 和 6 可以轉換。</translation>
     </message>
     <message>
-        <source>&amp;Kind</source>
-        <translation>種類(&amp;K)</translation>
+        <source>Kind</source>
+        <translation>種類</translation>
     </message>
     <message>
         <source>Kind code. Kind 14 has no choice of rigid body or soft cloth.</source>
         <translation>種類代碼。種類 14 不能選擇剛體或柔體布料。</translation>
     </message>
     <message>
-        <source>&amp;Convert state</source>
-        <translation>轉換狀態(&amp;C)</translation>
+        <source>Convert state</source>
+        <translation>轉換狀態</translation>
     </message>
     <message>
         <source>3 is at rest; another state of a type 5 or 6 object hides the panel in family A</source>
@@ -358,8 +358,8 @@
         <translation>其他 (7)</translation>
     </message>
     <message>
-        <source>&amp;Dialog mode</source>
-        <translation>對話方塊模式(&amp;D)</translation>
+        <source>Dialog mode</source>
+        <translation>對話方塊模式</translation>
     </message>
     <message>
         <source>Material (7)</source>
@@ -370,12 +370,12 @@
         <translation>其他 (3)</translation>
     </message>
     <message>
-        <source>&amp;Pick mode</source>
-        <translation>選取模式(&amp;P)</translation>
+        <source>Pick mode</source>
+        <translation>選取模式</translation>
     </message>
     <message>
-        <source>P&amp;laying</source>
-        <translation>正在播放(&amp;L)</translation>
+        <source>Playing</source>
+        <translation>正在播放</translation>
     </message>
     <message>
         <source>Events by hand</source>
@@ -406,8 +406,8 @@
         <translation>通知所選物件的資料已變更</translation>
     </message>
     <message>
-        <source>D&amp;ata changed</source>
-        <translation>資料變更(&amp;A)</translation>
+        <source>Data changed</source>
+        <translation>資料變更</translation>
     </message>
     <message>
         <source>Sends this event to the plug-in</source>
@@ -446,16 +446,16 @@
         <translation>要失敗的主程式操作，名稱與主程式呼叫清單相同</translation>
     </message>
     <message>
-        <source>&amp;Operation</source>
-        <translation>操作(&amp;O)</translation>
+        <source>Operation</source>
+        <translation>操作</translation>
     </message>
     <message>
         <source>Status that the failing call answers</source>
         <translation>失敗的呼叫傳回的狀態</translation>
     </message>
     <message>
-        <source>Stat&amp;us</source>
-        <translation>狀態(&amp;U)</translation>
+        <source>Status</source>
+        <translation>狀態</translation>
     </message>
     <message>
         <source>Let it fail</source>

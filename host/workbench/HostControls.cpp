@@ -73,7 +73,8 @@ void HostControls::AddApplicationControls(QFormLayout* form)
     m_application->addItems({tr("Family A (0x7)"), tr("Family B (0x1800000)"), tr("Neither")});
     m_application->setToolTip(tr("The application that runs the plug-in. Another choice starts the plug-in again."));
     connect(m_application, qOverload<int>(&QComboBox::activated), this, &HostControls::ApplicationChosen);
-    form->addRow(tr("&Family"), m_application);
+    // No mnemonics here: there are not letters enough for the menus, the panel and these.
+    form->addRow(tr("Family"), m_application);
 
     m_engine = new QSpinBox;
     m_engine->setObjectName(QStringLiteral("engineControl"));
@@ -84,7 +85,7 @@ void HostControls::AddApplicationControls(QFormLayout* form)
             m_host.SetPhysicsEngine(engine);
         }
     });
-    form->addRow(tr("&Engine"), m_engine);
+    form->addRow(tr("Engine"), m_engine);
 }
 
 QSpinBox* HostControls::AddTrait(QFormLayout* form, const QString& label, const QString& toolTip, const char* name,
@@ -103,7 +104,7 @@ QSpinBox* HostControls::AddTrait(QFormLayout* form, const QString& label, const 
 void HostControls::AddObjectControls(QFormLayout* form)
 {
     AddTitle(form, tr("Selected object"));
-    m_softCloth = new QCheckBox(tr("&Soft cloth physics"));
+    m_softCloth = new QCheckBox(tr("Soft cloth physics"));
     m_softCloth->setObjectName(QStringLiteral("softClothControl"));
     m_softCloth->setToolTip(tr("Switches soft cloth physics of the object, as the host's own menus would"));
     connect(m_softCloth, &QCheckBox::clicked, this, [this](bool active) {
@@ -118,16 +119,16 @@ void HostControls::AddObjectControls(QFormLayout* form)
     form->addRow(QString(), m_softCloth);
     m_objectControls.push_back(m_softCloth);
 
-    m_type = AddTrait(form, tr("&Type"),
+    m_type = AddTrait(form, tr("Type"),
                       tr("Type code. Shown types: 1 to 6, 30 to 34, 38, 39, 51 to 53. Types 5 and 6 can be converted."),
                       "typeControl", 99);
     connect(m_type, qOverload<int>(&QSpinBox::valueChanged), this,
             [this](int type) { EditTraits([type](ObjectTraits& traits) { traits.type = quint32(type); }); });
-    m_kind = AddTrait(form, tr("&Kind"), tr("Kind code. Kind 14 has no choice of rigid body or soft cloth."),
+    m_kind = AddTrait(form, tr("Kind"), tr("Kind code. Kind 14 has no choice of rigid body or soft cloth."),
                       "kindControl", 99);
     connect(m_kind, qOverload<int>(&QSpinBox::valueChanged), this,
             [this](int kind) { EditTraits([kind](ObjectTraits& traits) { traits.kind = kind; }); });
-    m_convertState = AddTrait(form, tr("&Convert state"),
+    m_convertState = AddTrait(form, tr("Convert state"),
                               tr("3 is at rest; another state of a type 5 or 6 object hides the panel in family A"),
                               "convertStateControl", 9);
     connect(m_convertState, qOverload<int>(&QSpinBox::valueChanged), this, [this](int state) {
@@ -162,7 +163,7 @@ void HostControls::AddModeControls(QFormLayout* form)
     m_dialogMode->addItem(tr("Another (7)"), 7);
     connect(m_dialogMode, qOverload<int>(&QComboBox::activated), this,
             [this] { m_host.SetDialogMode(MV::EDialogMode(m_dialogMode->currentData().toInt())); });
-    form->addRow(tr("&Dialog mode"), m_dialogMode);
+    form->addRow(tr("Dialog mode"), m_dialogMode);
 
     m_pickMode = new QComboBox;
     m_pickMode->setObjectName(QStringLiteral("pickModeControl"));
@@ -171,9 +172,9 @@ void HostControls::AddModeControls(QFormLayout* form)
     m_pickMode->addItem(tr("Another (3)"), 3);
     connect(m_pickMode, qOverload<int>(&QComboBox::activated), this,
             [this] { m_host.SetPickMode(MV::EPickMode(m_pickMode->currentData().toInt())); });
-    form->addRow(tr("&Pick mode"), m_pickMode);
+    form->addRow(tr("Pick mode"), m_pickMode);
 
-    m_playing = new QCheckBox(tr("P&laying"));
+    m_playing = new QCheckBox(tr("Playing"));
     m_playing->setObjectName(QStringLiteral("playingControl"));
     connect(m_playing, &QCheckBox::clicked, this, [this](bool playing) { m_host.SetPlaying(playing); });
     form->addRow(QString(), m_playing);
@@ -201,7 +202,7 @@ void HostControls::AddEventControls(QFormLayout* form)
         m_host.Send("ObjectDataChanged", &CEventSender::ObjectDataChanged, objects(),
                     MV::EObjectChangedDataType(dataBits->currentData().toUInt()));
     });
-    form->addRow(tr("D&ata changed"), dataBits);
+    form->addRow(tr("Data changed"), dataBits);
 
     const auto addButton = [&](const QString& text, const std::function<void()>& send) {
         auto* button = new QPushButton(text);
@@ -231,14 +232,14 @@ void HostControls::AddFaultControls(QFormLayout* form)
     operation->setObjectName(QStringLiteral("faultOperationControl"));
     operation->setPlaceholderText(tr("GetSoftClothCollision"));
     operation->setToolTip(tr("Host operation that is to fail, as the Host Calls view names it"));
-    form->addRow(tr("&Operation"), operation);
+    form->addRow(tr("Operation"), operation);
 
     auto* code = new QComboBox;
     for (const quint32 value : {0x80000002U, 0x80000003U, 0x80000004U, 0x80000005U, 0x80000006U}) {
         code->addItem(QStringLiteral("0x%1").arg(value, 8, 16, QLatin1Char('0')), value);
     }
     code->setToolTip(tr("Status that the failing call answers"));
-    form->addRow(tr("Stat&us"), code);
+    form->addRow(tr("Status"), code);
 
     auto* fail = new QPushButton(tr("Let it fail"));
     connect(fail, &QPushButton::clicked, this, [this, operation, code] {

@@ -1,3 +1,4 @@
+#include "host/services/ImageEditor.h"
 #include "host/workbench/window/RecentFiles.h"
 #include "tests/panel/workbench/WorkbenchTestCase.h"
 #include "tests/support/SampleImages.h"
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void droppedSceneIsOpened();
     void otherDropsAreRefused();
     void imageDroppedOnTheThumbnailIsLoaded();
+    void keptUvLayoutIsRemembered();
 
 private:
     /// Height of the only object, in centimetres.
@@ -289,6 +291,22 @@ void TestWorkbenchFiles::imageDroppedOnTheThumbnailIsLoaded()
     OpenDialog();
     QVERIFY(Drop(*Child<QWidget>(&Window(), "qtWeightingItemLabel"), {image}));
     QTRY_COMPARE(Cloth(flag).weight.image.filePath, image);
+}
+
+void TestWorkbenchFiles::keptUvLayoutIsRemembered()
+{
+    Host::Object textured = SampleModels::Flag();
+    textured.materials.at(0).textures[MV::ETextureChannel::Diffuse].embedded =
+        SampleImages::Encoded(QStringLiteral("png"), SampleImages::Filled({4, 4}, Qt::red));
+    AddCloth(std::move(textured));
+    OpenDialog();
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("silk.png"));
+    App().Editor().SetProgram(QStringLiteral("true"));
+    UserDialogs::ChooseFile([this] { Child<QPushButton>(&Window(), "qtUvRefPushButton")->click(); }, file);
+    QVERIFY(QFileInfo::exists(file));
+    OpenWindow();
+    QCOMPARE(App().Editor().Layouts().Kept(), QStringList{file});
 }
 
 SOFTCLOTH_TEST(TestWorkbenchFiles)

@@ -2,9 +2,13 @@
 #include "host/workbench/window/WindowState.h"
 #include "tests/panel/workbench/WorkbenchTestCase.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QDockWidget>
 #include <QLabel>
+#include <QMenuBar>
 #include <QScreen>
+#include <QStyle>
 
 /// Places and sizes of the workbench's windows.
 class TestWorkbenchWindow : public WorkbenchTestCase
@@ -21,6 +25,9 @@ private Q_SLOTS:
     void dialogStaysWhereTheUserPutsIt();
     void placeBesideThePanel_data();
     void placeBesideThePanel();
+    void weightMapDialogLeavesThePanelFree_data();
+    void weightMapDialogLeavesThePanelFree();
+    void keysOfTheMenusReachTheMenus();
 };
 
 void TestWorkbenchWindow::firstWindowFitsTheScreen_data()
@@ -105,6 +112,56 @@ void TestWorkbenchWindow::placeBesideThePanel()
 {
     QFETCH(const QRect, panel);
     QTEST(Host::PlaceBeside(panel, {400, 700}, QRect(0, 0, 1600, 1000)), "place");
+}
+
+void TestWorkbenchWindow::weightMapDialogLeavesThePanelFree_data()
+{
+    QTest::addColumn<QSize>("screenSize"); // 1920 x 1080 in points
+    QTest::addColumn<bool>("hasRoom");
+    QTest::newRow("100 %") << QSize(1920, 1080) << true;
+    QTest::newRow("150 %") << QSize(1280, 720) << true;
+    QTest::newRow("200 %") << QSize(960, 540) << false; // the tree and the centre are covered, then the panel
+}
+
+void TestWorkbenchWindow::weightMapDialogLeavesThePanelFree()
+{
+    QFETCH(const QSize, screenSize);
+    QFETCH(const bool, hasRoom);
+    AddCloth(SampleModels::Flag());
+    const QRect screen({0, 0}, screenSize);
+    const QRect window = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, Host::FirstWindowSize(screen), screen);
+    Window().resize(window.size());
+    const QWidget* panel = Child<QDockWidget>(&Window(), "modifyDock")->widget();
+    const QRect panelPlace(panel->mapTo(&Window(), {}) + window.topLeft(), panel->size());
+    const QSize dialog(807, 532); // the least that it takes in the workbench's style
+    const QRect place(Host::PlaceBeside(panelPlace, dialog, screen), dialog);
+    QVERIFY2(screen.contains(place), qPrintable(QStringLiteral("%1 x %2").arg(dialog.width()).arg(dialog.height())));
+    QCOMPARE(!place.intersects(panelPlace), hasRoom);
+    QVERIFY(hasRoom || place.left() == screen.left());
+}
+
+void TestWorkbenchWindow::keysOfTheMenusReachTheMenus()
+{
+    AddCloth(SampleModels::Flag());
+    QList<QKeySequence> taken;
+    const QList<QAction*> menus = Window().menuBar()->actions();
+    for (const QAction* menu : menus) {
+        taken.append(QKeySequence::mnemonic(menu->text()));
+        QVERIFY2(!taken.constLast().isEmpty(), qPrintable(menu->text()));
+    }
+    QStringList texts; // the weight map dialog is a window of its own, with letters of its own
+    const QList<QLabel*> labels = Window().findChildren<QLabel*>();
+    for (const QLabel* label : labels) {
+        texts.append(label->buddy() && label->window() == &Window() ? label->text() : QString());
+    }
+    const QList<QAbstractButton*> buttons = Window().findChildren<QAbstractButton*>();
+    for (const QAbstractButton* button : buttons) {
+        texts.append(button->window() == &Window() ? button->text() : QString());
+    }
+    for (const QString& text : qAsConst(texts)) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        QVERIFY2(key.isEmpty() || !taken.contains(key), qPrintable(text));
+    }
 }
 
 SOFTCLOTH_TEST(TestWorkbenchWindow)
