@@ -15,6 +15,8 @@
 #include <QSettings>
 #include <QTabWidget>
 
+#include <cmath>
+
 using MV::ECompatibleApp;
 
 /// The preset section of the built library, with the presets that the host ships.
@@ -26,6 +28,8 @@ private Q_SLOTS:
     void everyShippedPresetIsInItsTab_data();
     void everyShippedPresetIsInItsTab();
     void everyItemOfTheGalleryHasAPreset();
+    void windPushesAsHardAsTheGuideSays_data();
+    void windPushesAsHardAsTheGuideSays();
     void thumbnailsAreSeenOnTheDarkGround_data();
     void thumbnailsAreSeenOnTheDarkGround();
     void presetChangesItsGroupsAndIsUndone_data();
@@ -177,6 +181,43 @@ void TestPresetInHost::everyItemOfTheGalleryHasAPreset()
             QVERIFY2(QFileInfo(item->data(Qt::UserRole).toString()).isFile(), qPrintable(item->text()));
         }
     }
+}
+
+void TestPresetInHost::windPushesAsHardAsTheGuideSays_data()
+{
+    QTest::addColumn<double>("steadily"); // in pulls of gravity
+    QTest::addColumn<double>("atMost");
+    QTest::newRow("1_Calm") << 0.0 << 0.0;
+    QTest::newRow("2_Breeze") << 0.07 << 0.2;
+    QTest::newRow("3_Steady") << 0.5 << 0.6;
+    QTest::newRow("4_Gale") << 1.5 << 3.0;
+    QTest::newRow("5_Gusts") << 0.1 << 3.6;
+    QTest::newRow("6_Whirl") << 0.2 << 1.4; // never as much as the gale pushes steadily
+}
+
+void TestPresetInHost::windPushesAsHardAsTheGuideSays()
+{
+    QFETCH(const double, steadily);
+    QFETCH(const double, atMost);
+    QSettings file(QStringLiteral(SOFTCLOTH_DATA_FOLDER "/PhysicsSoftPreset/2/%1.ini")
+                       .arg(QString::fromLatin1(QTest::currentDataTag())),
+                   QSettings::IniFormat);
+    file.beginGroup(QStringLiteral("Wind_Setting"));
+    const auto numbers = [&file](const char* key) { return file.value(QLatin1String(key)).toStringList(); };
+    const double factor = numbers("Wind_Random_Factor").value(1).toDouble();
+    double steadySquare = 0.0;
+    double mostSquare = 0.0;
+    for (int axis = 0; axis < 3; ++axis) {
+        const double external = numbers("External_Acceleration").value(axis).toDouble();
+        const double most = qAbs(external) + numbers("Random_Acceleration").value(axis).toDouble() * factor;
+        steadySquare += external * external;
+        mostSquare += most * most;
+    }
+    const double gravity = 981.0;
+    const double steady = std::sqrt(steadySquare) / gravity;
+    const double most = std::sqrt(mostSquare) / gravity;
+    QVERIFY2(qAbs(steady - steadily) < 0.1, qPrintable(QString::number(steady)));
+    QVERIFY2(qAbs(most - atMost) < 0.1, qPrintable(QString::number(most)));
 }
 
 void TestPresetInHost::thumbnailsAreSeenOnTheDarkGround_data()
