@@ -76,12 +76,6 @@ struct ObjectTraits
     int convertState = 3;
     bool blocked = false;   ///< The panel is blocked in applications of family A.
     bool blockedEx = false; ///< The panel is blocked in applications of family B.
-
-    friend bool operator==(const ObjectTraits& a, const ObjectTraits& b)
-    {
-        return a.type == b.type && a.kind == b.kind && a.convertState == b.convertState && a.blocked == b.blocked &&
-               a.blockedEx == b.blockedEx;
-    }
 };
 
 struct Material

@@ -65,6 +65,11 @@ bool operator==(const ObjectState& a, const ObjectState& b)
     return Same(a, b) && a.ignoredMaterials == b.ignoredMaterials;
 }
 
+bool operator==(const ObjectTraits& a, const ObjectTraits& b)
+{
+    return Same(a, b);
+}
+
 bool SceneEdit::ChangesNothing() const
 {
     return AllSame(cloths) && AllSame(materials) && AllSame(objects);

@@ -65,5 +65,6 @@ bool operator==(const WeightImage& a, const WeightImage& b);
 bool operator==(const ClothState& a, const ClothState& b);
 bool operator==(const MaterialState& a, const MaterialState& b);
 bool operator==(const ObjectState& a, const ObjectState& b);
+bool operator==(const ObjectTraits& a, const ObjectTraits& b);
 
 } // namespace Host

@@ -134,16 +134,15 @@ template <class Record, std::enable_if_t<isRecord<Record>, int> = 0>
 QJsonObject ToJson(const Record& record)
 {
     QJsonObject json;
-    const auto write = [&](const auto& field) { json.insert(QLatin1String(field.name), ToJson(record.*field.member)); };
-    std::apply([&](const auto&... field) { (write(field), ...); }, FieldsOf(record));
+    ForEachField(record,
+                 [&](const auto& field) { json.insert(QLatin1String(field.name), ToJson(record.*field.member)); });
     return json;
 }
 
 template <class Record, std::enable_if_t<isRecord<Record>, int> = 0>
 void FromJson(const JsonNode& node, Record& record)
 {
-    const auto read = [&](const auto& field) { FromJson(node[field.name], record.*field.member); };
-    std::apply([&](const auto&... field) { (read(field), ...); }, FieldsOf(record));
+    ForEachField(record, [&](const auto& field) { FromJson(node[field.name], record.*field.member); });
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "host/services/EditService.h"
 
-#include "host/services/RecordFields.h"
+#include "host/scene/RecordFields.h"
 #include "host/services/WeightImages.h"
 #include "panel/HostCodes.h"
 

@@ -1,39 +1,77 @@
 #include "host/services/JournalText.h"
 
 #include "host/scene/Handles.h"
+#include "host/scene/RecordFields.h"
 #include "host/scene/Scene.h"
 #include "host/services/ImageHandles.h"
 
 #include <QAction>
+#include <QByteArray>
 #include <QWidget>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <system_error>
+#include <type_traits>
 
 namespace Host {
 
 namespace {
 
-QString Number(float value)
+/// As short as it can be with no other number looking like it. All bits of what is not a number.
+QString NumberText(float value)
 {
-    return QString::number(double(value), 'g', 7);
+    if (std::isnan(value)) {
+        quint32 bits = 0;
+        std::memcpy(&bits, &value, sizeof(bits));
+        return QStringLiteral("nan 0x%1").arg(bits, 8, 16, QLatin1Char('0'));
+    }
+    std::array<char, 32> text{};
+    const auto [end, error] = std::to_chars(text.begin(), text.end(), value);
+    Q_ASSERT(error == std::errc());
+    return QString::fromLatin1(text.data(), int(end - text.data()));
 }
 
-QString Field(const char* name, const QString& text)
+template <class Value>
+QString ValueText(Value value)
 {
-    return QLatin1String(name) + QLatin1Char('=') + text;
+    if constexpr (std::is_same_v<Value, float>) {
+        return NumberText(value);
+    } else if constexpr (std::is_same_v<Value, bool>) {
+        return value ? QStringLiteral("true") : QStringLiteral("false");
+    } else {
+        return QString::number(value);
+    }
 }
 
-QString Record(const QStringList& fields)
-{
-    return QLatin1Char('{') + fields.join(QLatin1String(", ")) + QLatin1Char('}');
-}
-
-template <std::size_t n>
-QString Numbers(const std::array<float, n>& values)
+template <std::size_t size>
+QString ValueText(const std::array<float, size>& values)
 {
     QStringList texts;
     for (const float value : values) {
-        texts.append(Number(value));
+        texts.append(NumberText(value));
     }
     return QLatin1Char('(') + texts.join(QLatin1String(", ")) + QLatin1Char(')');
+}
+
+/// Hexadecimal; a single 0 for bytes that are all zero.
+template <std::size_t size>
+QString ValueText(const std::array<unsigned char, size>& bytes)
+{
+    const QByteArray raw(reinterpret_cast<const char*>(bytes.data()), int(size));
+    return raw.count('\0') == raw.size() ? QStringLiteral("0") : QString::fromLatin1(raw.toHex());
+}
+
+template <class Record>
+QString RecordText(const Record& record)
+{
+    QStringList texts;
+    ForEachField(record, [&](const auto& field) {
+        texts.append(QLatin1String(field.name) + QLatin1Char('=') + ValueText(record.*field.member));
+    });
+    return QLatin1Char('{') + texts.join(QLatin1String(", ")) + QLatin1Char('}');
 }
 
 QString ObjectText(const QObject* object)
@@ -49,7 +87,7 @@ QString ObjectText(const QObject* object)
 
 QString JournalText::operator()(bool value) const
 {
-    return value ? QStringLiteral("true") : QStringLiteral("false");
+    return ValueText(value);
 }
 
 QString JournalText::operator()(const QString& value) const
@@ -88,44 +126,27 @@ QString JournalText::operator()(const QWidget* value) const
 
 QString JournalText::operator()(const MV::SoftClothPropertyData& value) const
 {
-    return Record(
-        {Field("mass", QString::number(value.mass)), Field("solverFrequency", QString::number(value.solverFrequency)),
-         Field("tetherStiffness", Number(value.tetherStiffness)), Field("tetherLimit", Number(value.tetherLimit)),
-         Field("friction", Number(value.friction)), Field("damping", Number(value.damping)),
-         Field("drag", Number(value.drag)), Field("stiffness", Number(value.stiffness)),
-         Field("stiffnessFrequency", Number(value.stiffnessFrequency)), Field("bending", Number(value.bending)),
-         Field("linearInertiaScale", Number(value.linearInertiaScale)),
-         Field("angularInertiaScale", Number(value.angularInertiaScale)),
-         Field("centrifugalInertiaScale", Number(value.centrifugalInertiaScale)),
-         Field("collisionMassScale", Number(value.collisionMassScale)),
-         Field("sleepLinearVelocity", Number(value.sleepLinearVelocity)),
-         Field("wakeCounterValue", Number(value.wakeCounterValue))});
+    return RecordText(value);
 }
 
 QString JournalText::operator()(const MV::SoftClothCollisionData& value) const
 {
-    return Record({Field("collideWithRigid", (*this)(value.collideWithRigid)),
-                   Field("selfCollision", (*this)(value.selfCollision)),
-                   Field("rigidMargin", Number(value.rigidMargin)), Field("selfMargin", Number(value.selfMargin))});
+    return RecordText(value);
 }
 
 QString JournalText::operator()(const MV::SoftClothWindData& value) const
 {
-    return Record({Field("externalAcceleration", Numbers(value.externalAcceleration)),
-                   Field("randomAcceleration", Numbers(value.randomAcceleration)),
-                   Field("frequency", Number(value.frequency)), Field("randomFactor", Numbers(value.randomFactor))});
+    return RecordText(value);
 }
 
 QString JournalText::operator()(const MV::WeightImageAdjust& value) const
 {
-    return Record(
-        {Field("brightness", QString::number(value.brightness)), Field("contrast", QString::number(value.contrast))});
+    return RecordText(value);
 }
 
 QString JournalText::operator()(const MV::WeightImageState& value) const
 {
-    return Record({Field("hasFile", (*this)(value.hasFile)), Field("embedded", (*this)(value.embedded)),
-                   Field("reload", (*this)(value.reload))});
+    return RecordText(value);
 }
 
 QString JournalText::operator()(const std::map<std::wstring, BF::CArrayList<std::wstring>>& value) const

@@ -55,7 +55,7 @@ void CollectFields(const MV::CIniGroup& group, Record ClothState::*part, std::ve
             changes.push_back([part, member = field.member, value](ClothState& cloth) { cloth.*part.*member = value; });
         }
     };
-    std::apply([&](const auto&... fields) { (collect(fields), ...); }, FieldsOf(Record()));
+    ForEachField(Record(), collect);
 }
 
 } // namespace

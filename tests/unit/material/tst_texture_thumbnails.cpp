@@ -280,7 +280,7 @@ void TestTextureThumbnails::clickMakesALabelCurrent_data()
                                << QStringList{QStringLiteral(R"(GetWeightTexture("Hero", "Body", "Skin", null) -> 0)"),
                                               none,
                                               QStringLiteral(R"(GetWeightImageAdjust("Hero", "Body", "Skin", )"
-                                                             R"({brightness=0, contrast=0}) -> 0)")};
+                                                             R"({zero=0, brightness=0, contrast=0}) -> 0)")};
 }
 
 void TestTextureThumbnails::clickMakesALabelCurrent()

@@ -70,9 +70,9 @@ void TestWeightImage::adjustmentIsWritten_data()
     QTest::addColumn<QString>("box");
     QTest::addColumn<QString>("record");
     QTest::newRow("brightness") << QStringLiteral("qtBrightnessCombospinbox")
-                                << QStringLiteral("{brightness=-35, contrast=7}");
+                                << QStringLiteral("{zero=0, brightness=-35, contrast=7}");
     QTest::newRow("contrast") << QStringLiteral("qtContrastCombospinbox")
-                              << QStringLiteral("{brightness=5, contrast=-35}");
+                              << QStringLiteral("{zero=0, brightness=5, contrast=-35}");
 }
 
 void TestWeightImage::adjustmentIsWritten()
@@ -121,12 +121,14 @@ void TestWeightImage::draggedSliderWritesWhileItMoves()
         value = fixture.Brightness().Value();
         const QStringList writes = fixture.Take().filter(QStringLiteral("SetWeightImageAdjust"));
         QCOMPARE(writes.size(), 1);
-        QVERIFY(writes.first().endsWith(QStringLiteral("{brightness=%1, contrast=0}, false, false) -> 0").arg(value)));
+        QVERIFY(writes.first().endsWith(
+            QStringLiteral("{zero=0, brightness=%1, contrast=0}, false, false) -> 0").arg(value)));
     }
     QTest::mouseRelease(slider, Qt::LeftButton, {}, start + QPoint(40, 0));
     const QStringList writes = fixture.Take().filter(QStringLiteral("SetWeightImageAdjust"));
     QCOMPARE(writes.size(), 1);
-    QVERIFY(writes.first().endsWith(QStringLiteral("{brightness=%1, contrast=0}, true, true) -> 0").arg(value)));
+    QVERIFY(
+        writes.first().endsWith(QStringLiteral("{zero=0, brightness=%1, contrast=0}, true, true) -> 0").arg(value)));
 }
 
 void TestWeightImage::refusedAdjustmentIsTakenBack_data()
@@ -245,7 +247,7 @@ void TestWeightImage::settingsAreReadInOrder()
     }
     expected.append({QStringLiteral("GetThumbnailSourceImage(unknown 0xe0, unknown 0xe1) -> ") + answer,
                      Journal::Draw(QStringLiteral("unknown 0xe0"), QStringLiteral("%1")).arg(source),
-                     QStringLiteral("GetWeightImageAdjust(%1, {brightness=0, contrast=0}) -> 0").arg(triple)});
+                     QStringLiteral("GetWeightImageAdjust(%1, {zero=0, brightness=0, contrast=0}) -> 0").arg(triple)});
     // After the three calls each of the diffuse and the opacity texture.
     QCOMPARE(fixture.Take().mid(6), expected);
 }

@@ -1,0 +1,242 @@
+#include "host/scene/RecordFields.h"
+#include "host/scene/Scene.h"
+#include "host/services/JournalText.h"
+#include "tests/support/TestCase.h"
+
+#include <array>
+#include <cmath>
+#include <cstring>
+#include <functional>
+#include <limits>
+
+using Collision = MV::SoftClothCollisionData;
+using Property = MV::SoftClothPropertyData;
+using Wind = MV::SoftClothWindData;
+
+/// The host's records: the journal shows all of each, and a write changes no field but the one that it names.
+class TestRecordFields : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void journalShowsEveryBit();
+    void journalTellsNumbersApart_data();
+    void journalTellsNumbersApart();
+    void journalNamesFields();
+    void writeTakesItsFieldOnly_data();
+    void writeTakesItsFieldOnly();
+    void otherWritesTakeNothing();
+};
+
+namespace {
+
+template <class Record>
+QString Text(const Record& record)
+{
+    return Host::JournalText(Host::Scene())(record);
+}
+
+template <class Record>
+using Bytes = std::array<unsigned char, sizeof(Record)>;
+
+template <class Record>
+Bytes<Record> BytesOf(const Record& record)
+{
+    Bytes<Record> bytes{};
+    std::memcpy(bytes.data(), &record, sizeof(record));
+    return bytes;
+}
+
+/// Where the member that \p field names lies in a record.
+template <class Record, class Field>
+std::size_t OffsetOf(const Record& record, const Field& field)
+{
+    const auto* member = reinterpret_cast<const unsigned char*>(&(record.*field.member));
+    return std::size_t(member - reinterpret_cast<const unsigned char*>(&record));
+}
+
+/// Turns each bit of each field over, by itself. \return how many bytes the fields have in all
+template <class Record>
+std::size_t TurnBits(const Record& before, const std::function<void(const Record&, const char* field, int bit)>& check)
+{
+    std::size_t count = 0;
+    Host::ForEachField(before, [&](const auto& field) {
+        using Value = std::decay_t<decltype(before.*field.member)>;
+        // The other bits of a truth value are never set.
+        const int bits = std::is_same_v<Value, bool> ? 1 : int(8 * sizeof(Value));
+        for (int bit = 0; bit < bits; ++bit) {
+            Bytes<Record> bytes = BytesOf(before);
+            bytes[OffsetOf(before, field) + std::size_t(bit / 8)] ^= static_cast<unsigned char>(1U << (bit % 8));
+            Record turned;
+            std::memcpy(&turned, bytes.data(), sizeof(turned));
+            check(turned, field.name, bit);
+        }
+        count += sizeof(Value);
+    });
+    return count;
+}
+
+template <class Record>
+void CheckEveryBit(std::size_t byteCount)
+{
+    const Record before;
+    const QString text = Text(before);
+    const std::size_t seen = TurnBits<Record>(before, [&](const Record& turned, const char* field, int bit) {
+        QVERIFY2(Text(turned) != text, qPrintable(QStringLiteral("%1, bit %2").arg(QLatin1String(field)).arg(bit)));
+    });
+    QCOMPARE(seen, byteCount);
+}
+
+/// The names of the fields that a write with \p selector takes from a record that differs in all bytes.
+template <class Record, class Selector>
+QStringList Taken(Selector selector)
+{
+    const Record before;
+    Bytes<Record> bytes = BytesOf(before);
+    for (unsigned char& byte : bytes) {
+        byte ^= 1U;
+    }
+    Record other;
+    std::memcpy(&other, bytes.data(), sizeof(other));
+    Record after = before;
+    const bool isTaken = Host::TakeField(after, other, selector);
+
+    QStringList names;
+    Host::ForEachField(before, [&](const auto& field) {
+        const std::size_t offset = OffsetOf(before, field);
+        const std::size_t size = sizeof(before.*field.member);
+        const auto same = [&](const Record& record) {
+            return std::memcmp(BytesOf(after).data() + offset, BytesOf(record).data() + offset, size) == 0;
+        };
+        if (same(other)) {
+            names.append(QLatin1String(field.name));
+        } else if (!same(before)) {
+            names.append(QLatin1String(field.name) + QStringLiteral(" in part"));
+        }
+    });
+    return isTaken == names.isEmpty() ? QStringList(QStringLiteral("wrong answer")) : names;
+}
+
+float FromBits(quint32 bits)
+{
+    float value = 0;
+    std::memcpy(&value, &bits, sizeof(value));
+    return value;
+}
+
+} // namespace
+
+void TestRecordFields::journalShowsEveryBit()
+{
+    CheckEveryBit<Property>(sizeof(Property));
+    CheckEveryBit<Collision>(sizeof(Collision) - 2); // The margins begin at a multiple of four.
+    CheckEveryBit<Wind>(sizeof(Wind));
+    CheckEveryBit<MV::WeightImageAdjust>(sizeof(MV::WeightImageAdjust));
+    CheckEveryBit<MV::WeightImageState>(sizeof(MV::WeightImageState));
+}
+
+void TestRecordFields::journalTellsNumbersApart_data()
+{
+    QTest::addColumn<float>("number");
+    QTest::addColumn<QString>("text");
+    const auto row = [](float number, const char* text) { QTest::newRow(text) << number << QString::fromLatin1(text); };
+    row(0.0F, "0");
+    row(-0.0F, "-0");
+    row(0.1F, "0.1");
+    row(std::nextafter(0.1F, 1.0F), "0.10000001");
+    row(20.0F, "20");
+    row(16777216.0F, "16777216");
+    row(1.0F / 3.0F, "0.33333334");
+    row(std::numeric_limits<float>::denorm_min(), "1e-45");
+    row(std::numeric_limits<float>::infinity(), "inf");
+    row(-std::numeric_limits<float>::infinity(), "-inf");
+    row(FromBits(0x7fc00000), "nan 0x7fc00000");
+    row(FromBits(0xffc00001), "nan 0xffc00001");
+}
+
+void TestRecordFields::journalTellsNumbersApart()
+{
+    QFETCH(float, number);
+    QFETCH(QString, text);
+    Collision record;
+    record.selfMargin = number;
+    const QString shown = Text(record);
+    QVERIFY2(shown.endsWith(QStringLiteral(", selfMargin=%1}").arg(text)), qPrintable(shown));
+}
+
+void TestRecordFields::journalNamesFields()
+{
+    Property property;
+    property.reserved[1] = 0xAB;
+    QCOMPARE(
+        Text(property),
+        QStringLiteral("{mass=1, solverFrequency=240, tetherStiffness=1, tetherLimit=1, friction=0.5, damping=0.5, "
+                       "drag=0, stiffness=1, stiffnessFrequency=10, bending=1, linearInertiaScale=1, "
+                       "angularInertiaScale=1, centrifugalInertiaScale=1, collisionMassScale=20, "
+                       "sleepLinearVelocity=0.05, wakeCounterValue=0.4, "
+                       "reserved=00ab00000000000000000000000000000000000000000000}"));
+    property.reserved = {};
+    QVERIFY(Text(property).endsWith(QStringLiteral(", reserved=0}")));
+    QCOMPARE(Text(Collision()),
+             QStringLiteral("{collideWithRigid=true, selfCollision=false, rigidMargin=0, selfMargin=0}"));
+    QCOMPARE(Text(Wind()), QStringLiteral("{externalAcceleration=(0, 0, 0), randomAcceleration=(0, 0, 0), frequency=1, "
+                                          "randomFactor=(1, 2)}"));
+    QCOMPARE(Text(MV::WeightImageAdjust()), QStringLiteral("{zero=0, brightness=0, contrast=0}"));
+    QCOMPARE(Text(MV::WeightImageState()), QStringLiteral("{hasFile=false, embedded=false, reload=false}"));
+}
+
+void TestRecordFields::writeTakesItsFieldOnly_data()
+{
+    QTest::addColumn<QString>("taken");
+    QTest::addColumn<QString>("names");
+    const auto row = [](auto selector, auto record, const char* names) {
+        using Record = decltype(record);
+        QTest::newRow(names) << Taken<Record>(selector).join(u' ') << QString::fromLatin1(names);
+    };
+    using Type = MV::ESoftClothPropertyType;
+    row(Type::Mass, Property(), "mass");
+    row(Type::SolverFrequency, Property(), "solverFrequency");
+    row(Type::TetherStiffness, Property(), "tetherStiffness");
+    row(Type::TetherLimit, Property(), "tetherLimit");
+    row(Type::Friction, Property(), "friction");
+    row(Type::Damping, Property(), "damping");
+    row(Type::Drag, Property(), "drag");
+    row(Type::Stiffness, Property(), "stiffness");
+    row(Type::Bending, Property(), "bending");
+    row(Type::InertiaScale, Property(), "linearInertiaScale angularInertiaScale centrifugalInertiaScale");
+    row(Type::All, Property(),
+        "mass solverFrequency tetherStiffness tetherLimit friction damping drag stiffness stiffnessFrequency bending "
+        "linearInertiaScale angularInertiaScale centrifugalInertiaScale collisionMassScale sleepLinearVelocity "
+        "wakeCounterValue reserved");
+    row(MV::ESoftClothCollisionType::CollideWithRigid, Collision(), "collideWithRigid");
+    row(MV::ESoftClothCollisionType::SelfCollision, Collision(), "selfCollision");
+    row(MV::ESoftClothCollisionType::RigidMargin, Collision(), "rigidMargin");
+    row(MV::ESoftClothCollisionType::SelfMargin, Collision(), "selfMargin");
+    row(MV::ESoftClothCollisionType::All, Collision(), "collideWithRigid selfCollision rigidMargin selfMargin");
+    row(MV::ESoftClothWindType::ExternalAcceleration, Wind(), "externalAcceleration");
+    row(MV::ESoftClothWindType::RandomAcceleration, Wind(), "randomAcceleration");
+    row(MV::ESoftClothWindType::Frequency, Wind(), "frequency");
+    row(MV::ESoftClothWindType::RandomFactor, Wind(), "randomFactor");
+    row(MV::ESoftClothWindType::All, Wind(), "externalAcceleration randomAcceleration frequency randomFactor");
+}
+
+void TestRecordFields::writeTakesItsFieldOnly()
+{
+    QFETCH(QString, taken);
+    QFETCH(QString, names);
+    QCOMPARE(taken, names);
+}
+
+void TestRecordFields::otherWritesTakeNothing()
+{
+    for (const int number : {-1, 8, 10, 11, 12, 14, 15, 16, 17, 18, 20}) {
+        QCOMPARE(Taken<Property>(MV::ESoftClothPropertyType(number)), QStringList());
+    }
+    for (const int number : {-1, 5, 19}) {
+        QCOMPARE(Taken<Collision>(MV::ESoftClothCollisionType(number)), QStringList());
+        QCOMPARE(Taken<Wind>(MV::ESoftClothWindType(number)), QStringList());
+    }
+}
+
+SOFTCLOTH_TEST(TestRecordFields)
+#include "tst_record_fields.moc"
