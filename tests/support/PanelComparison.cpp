@@ -1,6 +1,7 @@
 #include "tests/support/PanelComparison.h"
 
 #include "tests/support/PanelExpectation.h"
+#include "tests/support/PropertyRows.h"
 
 #include "host/services/HostApplication.h"
 
@@ -106,17 +107,14 @@ private:
 
 void CompareProperty(FormComparison form, const Expectation& held)
 {
-    const MV::SoftClothPropertyData& data = held.cloth->property;
-    form.Whole("qtMassEXSpinBox", int(data.mass));
-    form.Whole("qtSolverFrequencyEXSpinBox", int(data.solverFrequency));
-    form.Decimal("qtFricionDoubleEXSpinBox", double(data.friction));
-    form.Decimal("qtDampingDoubleEXSpinBox", double(data.damping));
-    form.Decimal("qtDragDoubleEXSpinBox", double(data.drag));
-    form.Decimal("qtTetherLimitDoubleEXSpinBox", double(data.tetherLimit));
-    form.Whole("qtTetherStiffnessCombospinbox", PercentTaken(data.tetherStiffness) + 1);
-    form.Whole("qtStiffnessCombospinbox", PercentTaken(data.stiffness));
-    form.Whole("qtBendingCombospinbox", PercentTaken(data.bending));
-    form.Whole("qtInertiaScaleCombospinbox", int(data.linearInertiaScale * 10.0F));
+    for (const PropertyRow& row : PropertyRows::WithBox()) {
+        const double shown = row.box.shown(row.Get(held.cloth->property));
+        if (QByteArray(row.box.className).contains("Double")) {
+            form.Decimal(row.box.name, shown);
+        } else {
+            form.Whole(row.box.name, int(qint64(shown)));
+        }
+    }
 }
 
 void CompareCollision(FormComparison form, const Expectation& held)

@@ -77,12 +77,6 @@ QStringList Expectation::TableRows() const
     return texts;
 }
 
-int PercentTaken(float value)
-{
-    const float percent = (1.0F - value) * 100.0F;
-    return int(percent > 0.0F ? percent + 0.5F : percent - 0.5F);
-}
-
 QImage PictureOf(Host::HostApplication& host, const Host::ClothAddress& address, MV::ETextureChannel channel,
                  const QSize& size)
 {

@@ -46,9 +46,6 @@ struct Expectation
 
 Expectation Expect(const Host::Scene& scene, MV::ECompatibleApp app);
 
-/// Percent of what is taken away from 1, half a percent rounded away from zero.
-int PercentTaken(float value);
-
 /// The picture of a texture, or of the weight image, as the host draws it.
 QImage PictureOf(Host::HostApplication& host, const Host::ClothAddress& address, MV::ETextureChannel channel,
                  const QSize& size);

@@ -1,5 +1,6 @@
 #include "tests/torture/Actions.h"
 
+#include "tests/support/PropertyRows.h"
 #include "tests/torture/Stage.h"
 
 #include <QAction>
@@ -89,21 +90,22 @@ void PressFilter(S& s)
     }
 }
 
+/// Types into each box of the property section.
+std::vector<Action> PropertyEdits()
+{
+    std::vector<Action> actions;
+    for (const PropertyRow& row : PropertyRows::WithBox()) {
+        const QByteArray typed = QByteArray::number(row.sample);
+        actions.push_back({QByteArray(row.name).replace(' ', '-') + "-edit", nullptr,
+                           [box = row.box.name, typed](S& s) { s.Type(property, box, typed); }, setProperty});
+    }
+    return actions;
+}
+
 const std::vector<Action> edits{
-    {"mass-edit", nullptr, [](S& s) { s.Type(property, "qtMassEXSpinBox", "77"); }, setProperty},
     {"mass-arrow", nullptr, [](S& s) { s.Key(property, "qtMassEXSpinBox", Qt::Key_Up, 2); }, setProperty},
-    {"solver-edit", nullptr, [](S& s) { s.Type(property, "qtSolverFrequencyEXSpinBox", "120"); }, setProperty},
-    {"friction-edit", nullptr, [](S& s) { s.Type(property, "qtFricionDoubleEXSpinBox", "0.75"); }, setProperty},
-    {"damping-edit", nullptr, [](S& s) { s.Type(property, "qtDampingDoubleEXSpinBox", "0.125"); }, setProperty},
-    {"drag-edit", nullptr, [](S& s) { s.Type(property, "qtDragDoubleEXSpinBox", "0.5"); }, setProperty},
-    {"tether-limit-edit", nullptr, [](S& s) { s.Type(property, "qtTetherLimitDoubleEXSpinBox", "2"); }, setProperty},
-    {"tether-stiffness-edit", nullptr, [](S& s) { s.Type(property, "qtTetherStiffnessCombospinbox", "5"); },
-     setProperty},
-    {"stiffness-edit", nullptr, [](S& s) { s.Type(property, "qtStiffnessCombospinbox", "13"); }, setProperty},
     {"stiffness-slide", nullptr, [](S& s) { s.Slide(property, "qtStiffnessCombospinbox", Qt::Key_PageUp); },
      setProperty},
-    {"bending-edit", nullptr, [](S& s) { s.Type(property, "qtBendingCombospinbox", "-5"); }, setProperty},
-    {"inertia-edit", nullptr, [](S& s) { s.Type(property, "qtInertiaScaleCombospinbox", "11"); }, setProperty},
     {"inertia-slide", nullptr, [](S& s) { s.Slide(property, "qtInertiaScaleCombospinbox", Qt::Key_Right); },
      setProperty},
     {"property-fold", nullptr, [](S& s) { s.Click(property, "qtExpandPushButton"); }, ""},
@@ -442,7 +444,7 @@ const std::vector<Action> hostEvents{
 const std::vector<Action>& Actions()
 {
     static const std::vector<Action> all = [] {
-        std::vector<Action> joined;
+        std::vector<Action> joined = PropertyEdits();
         for (const auto* part : {&edits, &presets, &dialogs, &hostEvents}) {
             joined.insert(joined.end(), part->begin(), part->end());
         }

@@ -1,5 +1,6 @@
 #include "tests/support/Children.h"
 #include "tests/support/PanelFixture.h"
+#include "tests/support/PropertyRows.h"
 #include "tests/support/SampleModels.h"
 #include "tests/support/TestCase.h"
 
@@ -27,6 +28,8 @@ class TestPresetInHost : public TestCase
 private Q_SLOTS:
     void everyShippedPresetIsInItsTab_data();
     void everyShippedPresetIsInItsTab();
+    void presetNamesEveryProperty_data();
+    void presetNamesEveryProperty();
     void everyItemOfTheGalleryHasAPreset();
     void windPushesAsHardAsTheGuideSays_data();
     void windPushesAsHardAsTheGuideSays();
@@ -168,6 +171,27 @@ void TestPresetInHost::everyShippedPresetIsInItsTab()
              QFileInfo(profile).canonicalFilePath());
     // The form's name of the item is the one of the file.
     QCOMPARE(item->text(), QFileInfo(profile).completeBaseName().section(QLatin1Char('_'), 1));
+}
+
+void TestPresetInHost::presetNamesEveryProperty_data()
+{
+    AddPresetRows();
+}
+
+/// A key that is missing from a group would count as 0.
+void TestPresetInHost::presetNamesEveryProperty()
+{
+    QFETCH(const QString, profile);
+    QSettings file(profile, QSettings::IniFormat);
+    file.beginGroup(QStringLiteral("Property"));
+    QStringList keys;
+    for (const PropertyRow& row : PropertyRows::All()) {
+        keys.append(QLatin1String(row.key));
+    }
+    keys.sort();
+    QStringList named = file.childKeys();
+    named.sort();
+    QCOMPARE(named, named.isEmpty() ? QStringList() : keys);
 }
 
 void TestPresetInHost::everyItemOfTheGalleryHasAPreset()

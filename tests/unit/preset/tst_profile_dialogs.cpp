@@ -4,6 +4,7 @@
 #include "tests/support/FileRefusal.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/OrdinaryUser.h"
+#include "tests/support/PropertyRows.h"
 #include "tests/support/TestCase.h"
 #include "tests/support/UserDialogs.h"
 #include "tests/unit/preset/PresetFixture.h"
@@ -227,7 +228,7 @@ void TestProfileDialogs::profileIsSaved()
                                                QStringLiteral("Property"), QStringLiteral("Wind_Setting")}));
     QCOMPARE(saved.value(QStringLiteral("Preset/Use_Global_Gravity")), QVariant(QStringLiteral("true")));
     QCOMPARE(saved.value(QStringLiteral("Property/Mass")), QVariant(QStringLiteral("6")));
-    QCOMPARE(saved.allKeys().size(), 1 + 16 + 4 + 4);
+    QCOMPARE(saved.allKeys().size(), 1 + int(PropertyRows::All().size()) + 4 + 4);
     QVERIFY(Files::ReadText(path).contains("\nExternal_Acceleration=0, 0, 0\n"));
 }
 

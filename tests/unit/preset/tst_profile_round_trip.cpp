@@ -1,3 +1,4 @@
+#include "tests/support/PropertyRows.h"
 #include "tests/support/TestCase.h"
 #include "tests/support/UserDialogs.h"
 #include "tests/unit/preset/PresetFixture.h"
@@ -60,22 +61,7 @@ Host::ClothState ExactCloth()
     Host::ClothState cloth;
     cloth.active = true;
     cloth.useGlobalGravity = false;
-    cloth.property.mass = 7;
-    cloth.property.solverFrequency = 300;
-    cloth.property.tetherStiffness = 1.0F - 19 * 0.01F;
-    cloth.property.tetherLimit = 1.25F;
-    cloth.property.friction = 0.75F;
-    cloth.property.damping = 0.25F;
-    cloth.property.drag = 0.125F;
-    cloth.property.stiffness = 1.0F - 30 * 0.01F;
-    cloth.property.stiffnessFrequency = 12.5F;
-    cloth.property.bending = 1.0F - 85 * 0.01F;
-    cloth.property.linearInertiaScale = 0.5F;
-    cloth.property.angularInertiaScale = 1.5F;
-    cloth.property.centrifugalInertiaScale = 2.0F;
-    cloth.property.collisionMassScale = 17.5F;
-    cloth.property.sleepLinearVelocity = 0.0625F;
-    cloth.property.wakeCounterValue = 0.75F;
+    cloth.property = PropertyRows::Samples();
     cloth.collision = {false, true, 1.5F, 0.25F};
     cloth.wind.externalAcceleration = {100, -200, 300};
     cloth.wind.randomAcceleration = {1, 2, -3};

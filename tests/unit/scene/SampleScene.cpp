@@ -1,7 +1,11 @@
 #include "tests/unit/scene/SampleScene.h"
 
+#include "host/scene/StateFields.h"
+
+#include <array>
 #include <cstring>
 #include <limits>
+#include <type_traits>
 
 namespace Sample {
 
@@ -28,6 +32,40 @@ float AnyFloat(QRandomGenerator& random)
 bool AnyBool(QRandomGenerator& random)
 {
     return random.bounded(2) == 1;
+}
+
+void SetAny(bool& value, QRandomGenerator& random)
+{
+    value = AnyBool(random);
+}
+
+void SetAny(float& value, QRandomGenerator& random)
+{
+    value = AnyFloat(random);
+}
+
+void SetAny(qint64& value, QRandomGenerator& random)
+{
+    value = static_cast<qint64>(random.generate64());
+}
+
+void SetAny(unsigned char& value, QRandomGenerator& random)
+{
+    value = static_cast<unsigned char>(random.bounded(256));
+}
+
+template <class Value, std::size_t size>
+void SetAny(std::array<Value, size>& values, QRandomGenerator& random)
+{
+    for (Value& value : values) {
+        SetAny(value, random);
+    }
+}
+
+template <class Record, std::enable_if_t<std::is_class_v<Record>, int> = 0>
+void SetAny(Record& record, QRandomGenerator& random)
+{
+    Host::ForEachField(record, [&](const auto& field) { SetAny(record.*field.member, random); });
 }
 
 } // namespace
@@ -57,28 +95,7 @@ Host::Object Robe(const QString& name)
 Host::ClothState AnyCloth(QRandomGenerator& random)
 {
     Host::ClothState cloth;
-    cloth.active = AnyBool(random);
-    cloth.useGlobalGravity = AnyBool(random);
-    auto& property = cloth.property;
-    property.mass = static_cast<qint64>(random.generate64());
-    property.solverFrequency = static_cast<qint64>(random.generate64());
-    for (float* value : {&property.tetherStiffness, &property.tetherLimit, &property.friction, &property.damping,
-                         &property.drag, &property.stiffness, &property.stiffnessFrequency, &property.bending,
-                         &property.linearInertiaScale, &property.angularInertiaScale, &property.centrifugalInertiaScale,
-                         &property.collisionMassScale, &property.sleepLinearVelocity, &property.wakeCounterValue,
-                         &cloth.collision.rigidMargin, &cloth.collision.selfMargin, &cloth.wind.frequency}) {
-        *value = AnyFloat(random);
-    }
-    for (unsigned char& byte : property.reserved) {
-        byte = static_cast<unsigned char>(random.bounded(256));
-    }
-    cloth.collision.collideWithRigid = AnyBool(random);
-    cloth.collision.selfCollision = AnyBool(random);
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        cloth.wind.externalAcceleration.at(axis) = AnyFloat(random);
-        cloth.wind.randomAcceleration.at(axis) = AnyFloat(random);
-    }
-    cloth.wind.randomFactor = {AnyFloat(random), AnyFloat(random)};
+    SetAny(cloth, random);
     return cloth;
 }
 

@@ -1,5 +1,6 @@
 #include "plugin/services/SoftClothRecords.h"
 
+#include "tests/support/PropertyRows.h"
 #include "tests/support/TestCase.h"
 
 #include <MVPluginQt/Enumerations.h>
@@ -14,10 +15,7 @@ class TestSoftClothRecords : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void recordHasItsSize_data();
     void recordHasItsSize();
-    void fieldHasItsPlace_data();
-    void fieldHasItsPlace();
     void fieldHasItsDefault_data();
     void fieldHasItsDefault();
     void reservedBytesAreZero();
@@ -37,99 +35,24 @@ void NumberRow(const char* name, Enum value, qint64 expected)
 
 } // namespace
 
-void TestSoftClothRecords::recordHasItsSize_data()
-{
-    QTest::addColumn<std::size_t>("size");
-    QTest::addColumn<std::size_t>("expected");
-    QTest::newRow("SoftClothPropertyData") << sizeof(MV::SoftClothPropertyData) << std::size_t(96);
-    QTest::newRow("SoftClothCollisionData") << sizeof(MV::SoftClothCollisionData) << std::size_t(12);
-    QTest::newRow("SoftClothWindData") << sizeof(MV::SoftClothWindData) << std::size_t(36);
-    QTest::newRow("WeightImageAdjust") << sizeof(MV::WeightImageAdjust) << std::size_t(12);
-    QTest::newRow("WeightImageState") << sizeof(MV::WeightImageState) << std::size_t(3);
-    QTest::newRow("Result") << sizeof(BF::Result) << std::size_t(4);
-}
-
+/// Those of the others, and the places of their fields, are pinned where they are declared.
 void TestSoftClothRecords::recordHasItsSize()
 {
-    QFETCH(std::size_t, size);
-    QFETCH(std::size_t, expected);
-    QCOMPARE(size, expected);
-}
-
-void TestSoftClothRecords::fieldHasItsPlace_data()
-{
-    using Property = MV::SoftClothPropertyData;
-    using Collision = MV::SoftClothCollisionData;
-    using Wind = MV::SoftClothWindData;
-    using Adjust = MV::WeightImageAdjust;
-    using State = MV::WeightImageState;
-    QTest::addColumn<std::size_t>("offset");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("property mass") << offsetof(Property, mass) << 0;
-    QTest::newRow("property solverFrequency") << offsetof(Property, solverFrequency) << 8;
-    QTest::newRow("property tetherStiffness") << offsetof(Property, tetherStiffness) << 16;
-    QTest::newRow("property tetherLimit") << offsetof(Property, tetherLimit) << 20;
-    QTest::newRow("property friction") << offsetof(Property, friction) << 24;
-    QTest::newRow("property damping") << offsetof(Property, damping) << 28;
-    QTest::newRow("property drag") << offsetof(Property, drag) << 32;
-    QTest::newRow("property stiffness") << offsetof(Property, stiffness) << 36;
-    QTest::newRow("property stiffnessFrequency") << offsetof(Property, stiffnessFrequency) << 40;
-    QTest::newRow("property bending") << offsetof(Property, bending) << 44;
-    QTest::newRow("property linearInertiaScale") << offsetof(Property, linearInertiaScale) << 48;
-    QTest::newRow("property angularInertiaScale") << offsetof(Property, angularInertiaScale) << 52;
-    QTest::newRow("property centrifugalInertiaScale") << offsetof(Property, centrifugalInertiaScale) << 56;
-    QTest::newRow("property collisionMassScale") << offsetof(Property, collisionMassScale) << 60;
-    QTest::newRow("property sleepLinearVelocity") << offsetof(Property, sleepLinearVelocity) << 64;
-    QTest::newRow("property wakeCounterValue") << offsetof(Property, wakeCounterValue) << 68;
-    QTest::newRow("property reserved") << offsetof(Property, reserved) << 72;
-    QTest::newRow("collision collideWithRigid") << offsetof(Collision, collideWithRigid) << 0;
-    QTest::newRow("collision selfCollision") << offsetof(Collision, selfCollision) << 1;
-    QTest::newRow("collision rigidMargin") << offsetof(Collision, rigidMargin) << 4;
-    QTest::newRow("collision selfMargin") << offsetof(Collision, selfMargin) << 8;
-    QTest::newRow("wind externalAcceleration") << offsetof(Wind, externalAcceleration) << 0;
-    QTest::newRow("wind randomAcceleration") << offsetof(Wind, randomAcceleration) << 12;
-    QTest::newRow("wind frequency") << offsetof(Wind, frequency) << 24;
-    QTest::newRow("wind randomFactor") << offsetof(Wind, randomFactor) << 28;
-    QTest::newRow("adjust zero") << offsetof(Adjust, zero) << 0;
-    QTest::newRow("adjust brightness") << offsetof(Adjust, brightness) << 4;
-    QTest::newRow("adjust contrast") << offsetof(Adjust, contrast) << 8;
-    QTest::newRow("state hasFile") << offsetof(State, hasFile) << 0;
-    QTest::newRow("state embedded") << offsetof(State, embedded) << 1;
-    QTest::newRow("state reload") << offsetof(State, reload) << 2;
-}
-
-void TestSoftClothRecords::fieldHasItsPlace()
-{
-    QFETCH(std::size_t, offset);
-    QFETCH(int, expected);
-    QCOMPARE(int(offset), expected);
+    QCOMPARE(sizeof(MV::WeightImageState), std::size_t(3));
+    QCOMPARE(sizeof(BF::Result), std::size_t(4));
 }
 
 void TestSoftClothRecords::fieldHasItsDefault_data()
 {
-    const MV::SoftClothPropertyData property;
     const MV::SoftClothCollisionData collision;
     const MV::SoftClothWindData wind;
     const MV::WeightImageAdjust adjust;
     const MV::WeightImageState state;
     QTest::addColumn<float>("value");
     QTest::addColumn<float>("expected");
-    QTest::newRow("mass") << float(property.mass) << 1.0F;
-    QTest::newRow("solverFrequency") << float(property.solverFrequency) << 240.0F;
-    QTest::newRow("tetherStiffness") << property.tetherStiffness << 1.0F;
-    QTest::newRow("tetherLimit") << property.tetherLimit << 1.0F;
-    QTest::newRow("friction") << property.friction << 0.5F;
-    QTest::newRow("damping") << property.damping << 0.5F;
-    QTest::newRow("drag") << property.drag << 0.0F;
-    QTest::newRow("stiffness") << property.stiffness << 1.0F;
-    QTest::newRow("stiffnessFrequency") << property.stiffnessFrequency << 10.0F;
-    QTest::newRow("bending") << property.bending << 1.0F;
-    QTest::newRow("linearInertiaScale") << property.linearInertiaScale << 1.0F;
-    QTest::newRow("angularInertiaScale") << property.angularInertiaScale << 1.0F;
-    QTest::newRow("centrifugalInertiaScale") << property.centrifugalInertiaScale << 1.0F;
-    QTest::newRow("collisionMassScale") << property.collisionMassScale << 20.0F;
-    QTest::newRow("sleepLinearVelocity") << property.sleepLinearVelocity << 0.05F;
-    QTest::newRow("wakeCounterValue") << property.wakeCounterValue << 0.4F;
+    for (const PropertyRow& row : PropertyRows::All()) {
+        QTest::newRow(row.name) << float(row.Get({})) << float(row.fresh);
+    }
     QTest::newRow("collideWithRigid") << float(collision.collideWithRigid) << 1.0F;
     QTest::newRow("selfCollision") << float(collision.selfCollision) << 0.0F;
     QTest::newRow("rigidMargin") << collision.rigidMargin << 0.0F;

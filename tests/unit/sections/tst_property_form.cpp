@@ -1,5 +1,7 @@
 #include "sections/SoftClothPropertySection.h"
 #include "tests/support/Children.h"
+#include "tests/support/Files.h"
+#include "tests/support/PropertyRows.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/sections/FormChecks.h"
 #include "tests/unit/sections/SectionFixture.h"
@@ -23,6 +25,8 @@ private Q_SLOTS:
     void slidersCoverTheUsualPercentages_data();
     void slidersCoverTheUsualPercentages();
     void boxesExplainThemselves();
+    void userGuideExplainsEachBox_data();
+    void userGuideExplainsEachBox();
     void layoutFileIsApplied();
     void freshFormShowsTheHostsDefaults();
     void tabGoesThroughTheBoxesFromTopToBottom();
@@ -31,18 +35,27 @@ private Q_SLOTS:
     void missingFormIsReturned();
 };
 
+namespace {
+
+QStringList Words(const char* words)
+{
+    return QString::fromLatin1(words).split(u' ');
+}
+
+} // namespace
+
 void TestPropertyForm::componentFindsEveryObjectInOrder()
 {
     SectionFixture fixture;
     Section& section = fixture.Make<Section>();
     CSoftClothPropertyUiComponent component;
-    FormChecks::Component(component, *Child<QWidget>(&section, "SoftClothProperty"),
-                          "verticalLayout_9 verticalLayout_8 verticalLayout_7 verticalLayout_6 gridLayout "
-                          "verticalLayout verticalLayout_2 qtBendingCombospinbox qtInertiaScaleCombospinbox "
-                          "qtStiffnessCombospinbox qtTetherStiffnessCombospinbox qtDampingDoubleEXSpinBox "
-                          "qtDragDoubleEXSpinBox qtFricionDoubleEXSpinBox qtTetherLimitDoubleEXSpinBox "
-                          "qtSectionGroupBox label_10 label_3 label_4 label_5 label_7 label_9 qtExpandPushButton "
-                          "qtMassEXSpinBox qtSolverFrequencyEXSpinBox SoftClothProperty");
+    const QStringList names = Words("verticalLayout_9 verticalLayout_8 verticalLayout_7 verticalLayout_6 gridLayout "
+                                    "verticalLayout verticalLayout_2") +
+                              PropertyRows::BoxNames("QComboSpinBox") + PropertyRows::BoxNames("QDoubleSpinBoxEx") +
+                              Words("qtSectionGroupBox label_10 label_3 label_4 label_5 label_7 label_9 "
+                                    "qtExpandPushButton") +
+                              PropertyRows::BoxNames("QSpinBoxEx") + Words("SoftClothProperty");
+    FormChecks::Component(component, *Child<QWidget>(&section, "SoftClothProperty"), qPrintable(names.join(u' ')));
 }
 
 void TestPropertyForm::formHasTypedObjects_data()
@@ -52,11 +65,9 @@ void TestPropertyForm::formHasTypedObjects_data()
     AddClassRow("QVBoxLayout", "verticalLayout_9 verticalLayout_8 verticalLayout_7 verticalLayout_6 verticalLayout "
                                "verticalLayout_2");
     AddClassRow("QGridLayout", "gridLayout");
-    AddClassRow("QComboSpinBox", "qtBendingCombospinbox qtInertiaScaleCombospinbox qtStiffnessCombospinbox "
-                                 "qtTetherStiffnessCombospinbox");
-    AddClassRow("QDoubleSpinBoxEx", "qtDampingDoubleEXSpinBox qtDragDoubleEXSpinBox qtFricionDoubleEXSpinBox "
-                                    "qtTetherLimitDoubleEXSpinBox");
-    AddClassRow("QSpinBoxEx", "qtMassEXSpinBox qtSolverFrequencyEXSpinBox");
+    for (const char* className : {"QComboSpinBox", "QDoubleSpinBoxEx", "QSpinBoxEx"}) {
+        AddClassRow(className, qPrintable(PropertyRows::BoxNames(className).join(u' ')));
+    }
     AddClassRow("QGroupBox", "qtSectionGroupBox");
     AddClassRow("QLabel", "label_10 label_3 label_4 label_5 label_7 label_9");
     AddClassRow("QPushButton", "qtExpandPushButton");
@@ -72,19 +83,11 @@ void TestPropertyForm::formHasTypedObjects()
 void TestPropertyForm::boxesHaveSensibleRanges_data()
 {
     FormChecks::AddRangeColumns();
-    QTest::newRow("mass") << QByteArray("qtMassEXSpinBox") << 0.0 << 10000.0 << 1.0 << QStringLiteral(" kg");
-    QTest::newRow("solver frequency") << QByteArray("qtSolverFrequencyEXSpinBox") << 1.0 << 1000.0 << 10.0
-                                      << QStringLiteral(" Hz");
-    QTest::newRow("friction") << QByteArray("qtFricionDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QString();
-    QTest::newRow("damping") << QByteArray("qtDampingDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QString();
-    QTest::newRow("drag") << QByteArray("qtDragDoubleEXSpinBox") << 0.0 << 1.0 << 0.05 << QString();
-    QTest::newRow("tether limit") << QByteArray("qtTetherLimitDoubleEXSpinBox") << 0.0 << 10.0 << 0.05 << QString();
-    QTest::newRow("stiffness") << QByteArray("qtStiffnessCombospinbox") << -100.0 << 100.0 << 1.0
-                               << QStringLiteral(" %");
-    QTest::newRow("bending") << QByteArray("qtBendingCombospinbox") << -100.0 << 100.0 << 1.0 << QStringLiteral(" %");
-    QTest::newRow("tether stiffness") << QByteArray("qtTetherStiffnessCombospinbox") << 1.0 << 101.0 << 1.0
-                                      << QString();
-    QTest::newRow("inertia, in tenths") << QByteArray("qtInertiaScaleCombospinbox") << 0.0 << 20.0 << 1.0 << QString();
+    for (const PropertyRow& row : PropertyRows::WithBox()) {
+        const PropertyRow::Box& box = row.box;
+        QTest::newRow(row.name) << QByteArray(box.name) << box.minimum << box.maximum << box.step
+                                << QString::fromLatin1(box.suffix);
+    }
 }
 
 void TestPropertyForm::boxesHaveSensibleRanges()
@@ -117,7 +120,27 @@ void TestPropertyForm::slidersCoverTheUsualPercentages()
 void TestPropertyForm::boxesExplainThemselves()
 {
     SectionFixture fixture;
-    FormChecks::Help(fixture.Make<Section>(), 10);
+    FormChecks::Help(fixture.Make<Section>(), PropertyRows::BoxNames().size());
+}
+
+void TestPropertyForm::userGuideExplainsEachBox_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    for (const PropertyRow& row : PropertyRows::WithBox()) {
+        QTest::newRow(row.name) << QByteArray(row.box.name);
+    }
+}
+
+void TestPropertyForm::userGuideExplainsEachBox()
+{
+    QFETCH(QByteArray, box);
+    SectionFixture fixture;
+    Section& section = fixture.Make<Section>();
+    const auto* widget = Child<QWidget>(&section, box);
+    const QString start =
+        QStringLiteral("\n| %1 | %2 to ").arg(widget->accessibleName(), widget->property("minimum").toString());
+    const QString guide = QString::fromUtf8(Files::Read(QStringLiteral(SOFTCLOTH_USER_GUIDE)));
+    QVERIFY2(guide.contains(start), qPrintable(start));
 }
 
 void TestPropertyForm::layoutFileIsApplied()
@@ -140,10 +163,8 @@ void TestPropertyForm::tabGoesThroughTheBoxesFromTopToBottom()
     SectionFixture fixture;
     Section& section = fixture.Make<Section>();
     QVERIFY(fixture.Show(section));
-    FormChecks::TabOrder(section, "qtExpandPushButton qtMassEXSpinBox qtSolverFrequencyEXSpinBox "
-                                  "qtFricionDoubleEXSpinBox qtDampingDoubleEXSpinBox qtDragDoubleEXSpinBox "
-                                  "qtTetherLimitDoubleEXSpinBox qtTetherStiffnessCombospinbox "
-                                  "qtStiffnessCombospinbox qtBendingCombospinbox qtInertiaScaleCombospinbox");
+    const QStringList names = QStringList(QStringLiteral("qtExpandPushButton")) + PropertyRows::BoxNames();
+    FormChecks::TabOrder(section, qPrintable(names.join(u' ')));
 }
 
 void TestPropertyForm::sectionStandsAtItsPlace()

@@ -1,5 +1,6 @@
 #include "sections/SoftClothPropertySection.h"
 #include "tests/support/Children.h"
+#include "tests/support/PropertyRows.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/sections/SectionFixture.h"
 
@@ -8,7 +9,7 @@ using Section = MV::CSoftClothPropertySection;
 
 Q_DECLARE_METATYPE(MV::SoftClothPropertyData)
 
-/// The property section's part of a profile: the sixteen keys, loaded and saved.
+/// The property section's part of a profile: its keys, loaded and saved.
 class TestPropertyProfile : public TestCase
 {
     Q_OBJECT
@@ -22,7 +23,7 @@ private Q_SLOTS:
     void loadIgnoresAFailedWrite();
     void loadedBoxStaysInItsRange_data();
     void loadedBoxStaysInItsRange();
-    void saveWritesSixteenKeys();
+    void saveWritesEveryKey();
     void saveTakesBoxesAndHostApart();
     void saveWithoutHostRecordWritesDefaults();
     void everyWholeBoxValueComesBack_data();
@@ -38,58 +39,14 @@ const char* const group = "Property";
 const char* const propertyWrite = "Edit.SetSoftClothProperty";
 
 /// A profile with a value of its own for every key.
-const QStringList fullProfile{
-    QStringLiteral("Mass=16"),
-    QStringLiteral("Friction=0.1"),
-    QStringLiteral("Damping=0.2"),
-    QStringLiteral("Drag=0.3"),
-    QStringLiteral("Solver_Frequency=120"),
-    QStringLiteral("Tether_Limit=1.25"),
-    QStringLiteral("Tether_Stiffness=51"),
-    QStringLiteral("Stiffness=75"),
-    QStringLiteral("Bending=100"),
-    QStringLiteral("Linear_Inertia_Scale=7"),
-    QStringLiteral("Angular_Inertia_Scale=15"),
-    QStringLiteral("Centrifugal_Inertia_Scale=9"),
-    QStringLiteral("Stiffness_Frequency=12.5"),
-    QStringLiteral("Collision_Mass_Scale=19.5"),
-    QStringLiteral("Sleep_Linear_Velocity=0.06"),
-    QStringLiteral("Wake_Counter_Value=0.6"),
-};
-
-/// The record that it means: the host's scale, in the order of the record's fields.
-const Record fullRecord{16,   120,  0.5F, 1.25F, 0.1F,  0.2F,  0.3F, 0.25F, 12.5F,
-                        0.0F, 0.7F, 1.5F, 0.9F,  19.5F, 0.06F, 0.6F, {}};
-
-/// What a profile without any key means.
-const Record emptyRecord{0, 0, 1.01F, 0.0F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F, 1.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F, {}};
-
-struct Key
+QStringList FullProfile()
 {
-    const char* key;
-    const char* box;
-    double shown;
-};
-
-/// Each key with the box that shows it, if one does, and what that shows of the full profile.
-constexpr Key keys[]{
-    {"Mass", "qtMassEXSpinBox", 16},
-    {"Friction", "qtFricionDoubleEXSpinBox", 0.1},
-    {"Damping", "qtDampingDoubleEXSpinBox", 0.2},
-    {"Drag", "qtDragDoubleEXSpinBox", 0.3},
-    {"Solver_Frequency", "qtSolverFrequencyEXSpinBox", 120},
-    {"Tether_Limit", "qtTetherLimitDoubleEXSpinBox", 1.25},
-    {"Tether_Stiffness", "qtTetherStiffnessCombospinbox", 51},
-    {"Stiffness", "qtStiffnessCombospinbox", 75},
-    {"Bending", "qtBendingCombospinbox", 100},
-    {"Linear_Inertia_Scale", "qtInertiaScaleCombospinbox", 7},
-    {"Angular_Inertia_Scale", "", 0},
-    {"Centrifugal_Inertia_Scale", "", 0},
-    {"Stiffness_Frequency", "", 0},
-    {"Collision_Mass_Scale", "", 0},
-    {"Sleep_Linear_Velocity", "", 0},
-    {"Wake_Counter_Value", "", 0},
-};
+    QStringList lines;
+    for (const PropertyRow& row : PropertyRows::All()) {
+        lines.append(row.Line());
+    }
+    return lines;
+}
 
 /// All whole numbers of a range; of a wide one some across it, its ends among them.
 QVector<int> Sample(int minimum, int maximum)
@@ -102,32 +59,6 @@ QVector<int> Sample(int minimum, int maximum)
     return values << maximum;
 }
 
-/// Takes the field of \p key from \p from over into \p to.
-void TakeField(Record& to, const Record& from, const QByteArray& key)
-{
-    const auto take = [&](const char* name, auto field) {
-        if (key == name) {
-            to.*field = from.*field;
-        }
-    };
-    take("Mass", &Record::mass);
-    take("Friction", &Record::friction);
-    take("Damping", &Record::damping);
-    take("Drag", &Record::drag);
-    take("Solver_Frequency", &Record::solverFrequency);
-    take("Tether_Limit", &Record::tetherLimit);
-    take("Tether_Stiffness", &Record::tetherStiffness);
-    take("Stiffness", &Record::stiffness);
-    take("Bending", &Record::bending);
-    take("Linear_Inertia_Scale", &Record::linearInertiaScale);
-    take("Angular_Inertia_Scale", &Record::angularInertiaScale);
-    take("Centrifugal_Inertia_Scale", &Record::centrifugalInertiaScale);
-    take("Stiffness_Frequency", &Record::stiffnessFrequency);
-    take("Collision_Mass_Scale", &Record::collisionMassScale);
-    take("Sleep_Linear_Velocity", &Record::sleepLinearVelocity);
-    take("Wake_Counter_Value", &Record::wakeCounterValue);
-}
-
 } // namespace
 
 void TestPropertyProfile::loadReadsEachKey_data()
@@ -136,13 +67,13 @@ void TestPropertyProfile::loadReadsEachKey_data()
     QTest::addColumn<Record>("sent");
     QTest::addColumn<QByteArray>("box");
     QTest::addColumn<double>("shown");
-    for (int i = 0; i < fullProfile.size(); ++i) {
-        Record sent = emptyRecord;
-        TakeField(sent, fullRecord, keys[i].key);
-        QTest::newRow(keys[i].key) << fullProfile.at(i) << sent << QByteArray(keys[i].box) << keys[i].shown;
+    for (const PropertyRow& known : PropertyRows::All()) {
+        Record sent = PropertyRows::Empty();
+        known.Set(sent, known.held);
+        QTest::newRow(known.key) << known.Line() << sent << QByteArray(known.box.name) << known.sample;
     }
     const auto row = [](const char* name, const char* line, auto field, auto value, const char* box, double shown) {
-        Record sent = emptyRecord;
+        Record sent = PropertyRows::Empty();
         sent.*field = value;
         QTest::newRow(name) << QString::fromLatin1(line) << sent << QByteArray(box) << shown;
     };
@@ -180,17 +111,18 @@ void TestPropertyProfile::loadReadsEachKey()
 void TestPropertyProfile::missingKeyCountsAsZero_data()
 {
     QTest::addColumn<int>("index");
-    for (int i = 0; i < fullProfile.size(); ++i) {
-        QTest::newRow(keys[i].key) << i;
+    for (int i = 0; i < FullProfile().size(); ++i) {
+        QTest::newRow(PropertyRows::All()[std::size_t(i)].key) << i;
     }
 }
 
 void TestPropertyProfile::missingKeyCountsAsZero()
 {
     QFETCH(int, index);
-    Record expected = fullRecord;
-    TakeField(expected, emptyRecord, keys[index].key);
-    QStringList lines = fullProfile;
+    const PropertyRow& row = PropertyRows::All()[std::size_t(index)];
+    Record expected = PropertyRows::Samples();
+    row.Set(expected, row.empty);
+    QStringList lines = FullProfile();
     lines.removeAt(index);
     SectionFixture fixture;
     Section& section = fixture.Make<Section>();
@@ -199,9 +131,8 @@ void TestPropertyProfile::missingKeyCountsAsZero()
     fixture.Load(section, group, lines);
 
     COMPARE_RECORDS(fixture, fixture.Cloth().property, expected);
-    if (*keys[index].box != '\0') {
-        const auto* box = Child<QWidget>(&section, keys[index].box);
-        QCOMPARE(Shown(box).toDouble(), qMax(0.0, box->property("minimum").toDouble()));
+    if (row.HasBox()) {
+        QCOMPARE(Shown(Child<QWidget>(&section, row.box.name)).toDouble(), qMax(0.0, row.box.minimum));
     }
 }
 
@@ -213,14 +144,14 @@ void TestPropertyProfile::loadWritesTheWholeRecordOnce()
     fixture.plugin.Selection().affectAllMaterials = true;
     const BoxSignals boxSignals(section);
 
-    fixture.Load(section, group, fullProfile);
+    fixture.Load(section, group, FullProfile());
 
     QCOMPARE(fixture.TakeCalls(),
-             QStringList(fixture.Call(propertyWrite,
-                                      {QStringLiteral("19"), fixture.Text(fullRecord), QStringLiteral("true")})));
+             QStringList(fixture.Call(propertyWrite, {QStringLiteral("19"), fixture.Text(PropertyRows::Samples()),
+                                                      QStringLiteral("true")})));
     QCOMPARE(boxSignals.Count(), 0);
     for (int material : {0, 1, 2}) {
-        COMPARE_RECORDS(fixture, fixture.Cloth(material).property, fullRecord);
+        COMPARE_RECORDS(fixture, fixture.Cloth(material).property, PropertyRows::Samples());
     }
 }
 
@@ -229,7 +160,7 @@ void TestPropertyProfile::loadIgnoresAFailedWrite()
     SectionFixture fixture;
     Section& section = fixture.Make<Section>();
     fixture.host.Faults().FailOperation(QStringLiteral("SetSoftClothProperty"), BF::Results::Refused);
-    fixture.Load(section, group, fullProfile);
+    fixture.Load(section, group, FullProfile());
     QCOMPARE(Shown(Child<QWidget>(&section, "qtMassEXSpinBox")).toInt(), 16);
     COMPARE_RECORDS(fixture, fixture.Cloth().property, Record());
 }
@@ -241,7 +172,7 @@ void TestPropertyProfile::loadedBoxStaysInItsRange_data()
     QTest::addColumn<double>("shown");
     QTest::addColumn<Record>("sent");
     const auto row = [](const char* line, const char* box, double shown, auto field, auto value) {
-        Record sent = emptyRecord;
+        Record sent = PropertyRows::Empty();
         sent.*field = value;
         QTest::newRow(line) << QString::fromLatin1(line) << QByteArray(box) << shown << sent;
     };
@@ -270,28 +201,25 @@ void TestPropertyProfile::loadedBoxStaysInItsRange()
     COMPARE_RECORDS(fixture, fixture.Cloth().property, sent);
 }
 
-void TestPropertyProfile::saveWritesSixteenKeys()
+void TestPropertyProfile::saveWritesEveryKey()
 {
     SectionFixture fixture;
-    fixture.Cloth().property = fullRecord;
+    fixture.Cloth().property = PropertyRows::Samples();
     Section& section = fixture.Make<Section>();
     section.UpdateUi();
     fixture.TakeCalls();
 
     const QStringList lines = fixture.Saved(section, group);
 
-    QStringList expected = fullProfile;
-    // What the host holds is widened to double with all its digits.
-    expected[14] = QStringLiteral("Sleep_Linear_Velocity=0.05999999865889549");
-    expected[15] = QStringLiteral("Wake_Counter_Value=0.6000000238418579");
-    QCOMPARE(lines, SavedAs(group, expected));
-    QCOMPARE(fixture.TakeCalls(), QStringList(fixture.Call("Scene.GetSoftClothProperty", {fixture.Text(fullRecord)})));
+    QCOMPARE(lines, SavedAs(group, FullProfile()));
+    QCOMPARE(fixture.TakeCalls(),
+             QStringList(fixture.Call("Scene.GetSoftClothProperty", {fixture.Text(PropertyRows::Samples())})));
 }
 
 void TestPropertyProfile::saveTakesBoxesAndHostApart()
 {
     SectionFixture fixture;
-    fixture.Cloth().property = fullRecord;
+    fixture.Cloth().property = PropertyRows::Samples();
     Section& section = fixture.Make<Section>();
     section.UpdateUi();
     // The boxes show what was read; the host moves on.
@@ -299,20 +227,25 @@ void TestPropertyProfile::saveTakesBoxesAndHostApart()
 
     const QStringList lines = fixture.Saved(section, group);
 
-    QCOMPARE(lines, SavedAs(group, fullProfile.mid(0, 9) +
-                                       QStringList{QStringLiteral("Linear_Inertia_Scale=10"),
-                                                   QStringLiteral("Angular_Inertia_Scale=10"),
-                                                   QStringLiteral("Centrifugal_Inertia_Scale=10"),
-                                                   QStringLiteral("Stiffness_Frequency=10"),
-                                                   QStringLiteral("Collision_Mass_Scale=20"),
-                                                   QStringLiteral("Sleep_Linear_Velocity=0.05000000074505806"),
-                                                   QStringLiteral("Wake_Counter_Value=0.4000000059604645")}));
+    QStringList expected;
+    for (const PropertyRow& row : PropertyRows::WithBox()) {
+        expected.append(row.Line());
+    }
+    expected.removeAll(QStringLiteral("Linear_Inertia_Scale=7"));
+    expected += QStringList{QStringLiteral("Linear_Inertia_Scale=10"),
+                            QStringLiteral("Angular_Inertia_Scale=10"),
+                            QStringLiteral("Centrifugal_Inertia_Scale=10"),
+                            QStringLiteral("Stiffness_Frequency=10"),
+                            QStringLiteral("Collision_Mass_Scale=20"),
+                            QStringLiteral("Sleep_Linear_Velocity=0.05000000074505806"),
+                            QStringLiteral("Wake_Counter_Value=0.4000000059604645")};
+    QCOMPARE(lines, SavedAs(group, expected));
 }
 
 void TestPropertyProfile::saveWithoutHostRecordWritesDefaults()
 {
     SectionFixture fixture;
-    fixture.Cloth().property = fullRecord;
+    fixture.Cloth().property = PropertyRows::Samples();
     Section& section = fixture.Make<Section>();
     section.UpdateUi();
     fixture.host.Faults().FailOperation(QStringLiteral("GetSoftClothProperty"), BF::Results::Refused);
@@ -326,10 +259,10 @@ void TestPropertyProfile::everyWholeBoxValueComesBack_data()
 {
     QTest::addColumn<QByteArray>("box");
     QTest::addColumn<QByteArray>("key");
-    for (const Key& key : keys) {
+    for (const PropertyRow& row : PropertyRows::WithBox()) {
         // The others hold decimals.
-        if (*key.box != '\0' && !QByteArray(key.box).contains("Double")) {
-            QTest::newRow(key.key) << QByteArray(key.box) << QByteArray(key.key);
+        if (!QByteArray(row.box.className).contains("Double")) {
+            QTest::newRow(row.key) << QByteArray(row.box.name) << QByteArray(row.key);
         }
     }
 }
@@ -357,7 +290,7 @@ void TestPropertyProfile::everyWholeBoxValueComesBack()
 void TestPropertyProfile::secondSectionGetsTheSameRecord()
 {
     SectionFixture fixture;
-    fixture.Cloth(0).property = fullRecord;
+    fixture.Cloth(0).property = PropertyRows::Samples();
     Section& first = fixture.Make<Section>();
     first.UpdateUi();
     QStringList lines = fixture.Saved(first, group);
@@ -367,11 +300,9 @@ void TestPropertyProfile::secondSectionGetsTheSameRecord()
     Section& second = fixture.Make<Section>();
     fixture.Load(second, group, lines);
 
-    COMPARE_RECORDS(fixture, fixture.Cloth(2).property, fullRecord);
-    for (const Key& key : keys) {
-        if (*key.box != '\0') {
-            QCOMPARE(Shown(Child<QWidget>(&second, key.box)), Shown(Child<QWidget>(&first, key.box)));
-        }
+    COMPARE_RECORDS(fixture, fixture.Cloth(2).property, PropertyRows::Samples());
+    for (const QString& box : PropertyRows::BoxNames()) {
+        QCOMPARE(Shown(Child<QWidget>(&second, qPrintable(box))), Shown(Child<QWidget>(&first, qPrintable(box))));
     }
 }
 

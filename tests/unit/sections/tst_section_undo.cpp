@@ -3,6 +3,7 @@
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
 #include "tests/support/Children.h"
+#include "tests/support/PropertyRows.h"
 #include "tests/support/TestCase.h"
 #include "tests/unit/sections/SectionFixture.h"
 
@@ -36,7 +37,7 @@ private Q_SLOTS:
 
 namespace {
 
-const Property allDifferent{2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, {}};
+const Property allDifferent = PropertyRows::AllDifferent();
 const Wind windDifferent{{2, 3, 4}, {5, 6, 7}, 8, {9, 10}};
 
 } // namespace
@@ -109,23 +110,11 @@ void TestSectionUndo::selectorTakesItsFieldsOnly_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<Property>("expected");
-    const auto row = [](const char* name, int type, auto... fields) {
+    for (const PropertyRow& row : PropertyRows::All()) {
         Property expected;
-        ((expected.*fields = allDifferent.*fields), ...);
-        QTest::newRow(name) << type << expected;
-    };
-    row("mass", 0, &Property::mass);
-    row("solver frequency", 1, &Property::solverFrequency);
-    row("tether stiffness", 2, &Property::tetherStiffness);
-    row("tether limit", 3, &Property::tetherLimit);
-    row("friction", 4, &Property::friction);
-    row("damping", 5, &Property::damping);
-    row("drag", 6, &Property::drag);
-    row("stiffness", 7, &Property::stiffness);
-    row("bending", 9, &Property::bending);
-    row("inertia scales", 13, &Property::linearInertiaScale, &Property::angularInertiaScale,
-        &Property::centrifugalInertiaScale);
-    QTest::newRow("whole record") << 19 << allDifferent;
+        PropertyRows::Take(expected, allDifferent, row.selector);
+        QTest::newRow(row.name) << row.selector << expected;
+    }
 }
 
 void TestSectionUndo::selectorTakesItsFieldsOnly()

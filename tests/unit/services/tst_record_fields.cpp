@@ -1,6 +1,7 @@
 #include "host/scene/RecordFields.h"
 #include "host/scene/Scene.h"
 #include "host/services/JournalText.h"
+#include "tests/support/PropertyRows.h"
 #include "tests/support/TestCase.h"
 
 #include <array>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void writeTakesItsFieldOnly_data();
     void writeTakesItsFieldOnly();
     void otherWritesTakeNothing();
+    void testsKnowEveryProperty();
 };
 
 namespace {
@@ -117,6 +119,38 @@ QStringList Taken(Selector selector)
     return isTaken == names.isEmpty() ? QStringList(QStringLiteral("wrong answer")) : names;
 }
 
+/// The name of the field that \p row is about; a null string when the host does not list it.
+QString FieldName(const PropertyRow& row)
+{
+    QString name;
+    Host::ForEachField(Property(), [&](const auto& field) {
+        using Member = std::decay_t<decltype(field.member)>;
+        if constexpr (!std::is_same_v<Member, decltype(&Property::reserved)>) {
+            if (const auto* member = std::get_if<Member>(&row.field); member && *member == field.member) {
+                name = QLatin1String(field.name);
+            }
+        }
+    });
+    return name;
+}
+
+/// The names of the property's fields that a write with \p selector takes, as the tests know them.
+QStringList FieldNames(int selector)
+{
+    QStringList names;
+    Host::ForEachField(Property(), [&](const auto& field) { names.append(QLatin1String(field.name)); });
+    if (selector != int(MV::ESoftClothPropertyType::All)) {
+        QStringList taken;
+        for (const PropertyRow& row : PropertyRows::All()) {
+            if (row.selector == selector) {
+                taken.append(FieldName(row));
+            }
+        }
+        names = taken;
+    }
+    return names;
+}
+
 float FromBits(quint32 bits)
 {
     float value = 0;
@@ -193,21 +227,11 @@ void TestRecordFields::writeTakesItsFieldOnly_data()
         using Record = decltype(record);
         QTest::newRow(names) << Taken<Record>(selector).join(u' ') << QString::fromLatin1(names);
     };
-    using Type = MV::ESoftClothPropertyType;
-    row(Type::Mass, Property(), "mass");
-    row(Type::SolverFrequency, Property(), "solverFrequency");
-    row(Type::TetherStiffness, Property(), "tetherStiffness");
-    row(Type::TetherLimit, Property(), "tetherLimit");
-    row(Type::Friction, Property(), "friction");
-    row(Type::Damping, Property(), "damping");
-    row(Type::Drag, Property(), "drag");
-    row(Type::Stiffness, Property(), "stiffness");
-    row(Type::Bending, Property(), "bending");
-    row(Type::InertiaScale, Property(), "linearInertiaScale angularInertiaScale centrifugalInertiaScale");
-    row(Type::All, Property(),
-        "mass solverFrequency tetherStiffness tetherLimit friction damping drag stiffness stiffnessFrequency bending "
-        "linearInertiaScale angularInertiaScale centrifugalInertiaScale collisionMassScale sleepLinearVelocity "
-        "wakeCounterValue reserved");
+    for (const PropertyRow& known : PropertyRows::All()) {
+        const QStringList names = FieldNames(known.selector);
+        QTest::newRow(known.name) << Taken<Property>(MV::ESoftClothPropertyType(known.selector)).join(u' ')
+                                  << names.join(u' ');
+    }
     row(MV::ESoftClothCollisionType::CollideWithRigid, Collision(), "collideWithRigid");
     row(MV::ESoftClothCollisionType::SelfCollision, Collision(), "selfCollision");
     row(MV::ESoftClothCollisionType::RigidMargin, Collision(), "rigidMargin");
@@ -236,6 +260,18 @@ void TestRecordFields::otherWritesTakeNothing()
         QCOMPARE(Taken<Collision>(MV::ESoftClothCollisionType(number)), QStringList());
         QCOMPARE(Taken<Wind>(MV::ESoftClothWindType(number)), QStringList());
     }
+}
+
+void TestRecordFields::testsKnowEveryProperty()
+{
+    QStringList known{QStringLiteral("reserved")};
+    for (const PropertyRow& row : PropertyRows::All()) {
+        known.append(FieldName(row));
+    }
+    known.sort();
+    QStringList listed = FieldNames(int(MV::ESoftClothPropertyType::All));
+    listed.sort();
+    QCOMPARE(known, listed);
 }
 
 SOFTCLOTH_TEST(TestRecordFields)
