@@ -20,7 +20,6 @@ class TestCollisionSection : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void recordHasTheHostsDefaults();
     void refreshShowsTheHostsValues_data();
     void refreshShowsTheHostsValues();
     void refreshAsksTwiceAndWritesNothing();
@@ -72,15 +71,6 @@ double ShownMargin(const QWidget& section, const char* name)
 }
 
 } // namespace
-
-void TestCollisionSection::recordHasTheHostsDefaults()
-{
-    const Record record;
-    QCOMPARE(record.collideWithRigid, true);
-    QCOMPARE(record.selfCollision, false);
-    QCOMPARE(record.rigidMargin, 0.0F);
-    QCOMPARE(record.selfMargin, 0.0F);
-}
 
 void TestCollisionSection::refreshShowsTheHostsValues_data()
 {

@@ -20,7 +20,6 @@ class TestWindSection : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void recordHasTheHostsDefaults();
     void commitWritesItsGroup_data();
     void commitWritesItsGroup();
     void commitSendsAllThreeAxes();
@@ -76,13 +75,6 @@ void Drag(Slider& slider, std::size_t index, int dx)
 }
 
 } // namespace
-
-void TestWindSection::recordHasTheHostsDefaults()
-{
-    const SectionFixture fixture;
-    const Record expected{{0, 0, 0}, {0, 0, 0}, 1, {1, 2}};
-    COMPARE_RECORDS(fixture, Record(), expected);
-}
 
 void TestWindSection::commitWritesItsGroup_data()
 {
