@@ -1,5 +1,6 @@
 #include "host/scene/FileStates.h"
 
+#include "host/scene/SceneJson.h"
 #include "host/scene/SceneText.h"
 #include "host/scene/StateJson.h"
 
@@ -159,7 +160,7 @@ WeightImage StateReader::ReadWeight(const JsonNode& node) const
 template <>
 ClothState StateReader::Read(const JsonNode& node) const
 {
-    auto state = StateFromJson<ClothState>(node);
+    auto state = StateFromJson<ClothState>(node, m_version < SceneFormat::version);
     if (m_version >= weightImageVersion) {
         state.weight = ReadWeight(node["weight"]);
     }
@@ -169,13 +170,13 @@ ClothState StateReader::Read(const JsonNode& node) const
 template <>
 MaterialState StateReader::Read(const JsonNode& node) const
 {
-    return StateFromJson<MaterialState>(node);
+    return StateFromJson<MaterialState>(node, m_version < SceneFormat::version);
 }
 
 template <>
 ObjectState StateReader::Read(const JsonNode& node) const
 {
-    auto state = StateFromJson<ObjectState>(node);
+    auto state = StateFromJson<ObjectState>(node, m_version < SceneFormat::version);
     if (m_version >= weightImageVersion) {
         state.ignoredMaterials = IgnoredFromJson(node["ignoredMaterials"]);
     }
@@ -185,7 +186,7 @@ ObjectState StateReader::Read(const JsonNode& node) const
 template <>
 ObjectTraits StateReader::Read(const JsonNode& node) const
 {
-    return StateFromJson<ObjectTraits>(node);
+    return StateFromJson<ObjectTraits>(node, m_version < SceneFormat::version);
 }
 
 } // namespace Host

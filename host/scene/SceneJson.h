@@ -12,7 +12,7 @@ class Scene;
 /// What a scene file says of itself.
 namespace SceneFormat {
 inline constexpr const char* name = "softcloth-scene";
-/// 1: no weight images and no ignored materials.
+/// 1: no weight images and no ignored materials. Files of all versions can be opened.
 inline constexpr int version = 2;
 } // namespace SceneFormat
 

@@ -102,7 +102,7 @@ QJsonValue ToJson(const std::array<float, size>& values)
 }
 
 template <std::size_t size>
-void FromJson(const JsonNode& node, std::array<float, size>& values)
+void FromJson(const JsonNode& node, std::array<float, size>& values, bool /*isOlder*/)
 {
     const std::vector<JsonNode> items = node.Items();
     if (items.size() != size) {
@@ -121,13 +121,14 @@ QJsonValue ToJson(const std::array<unsigned char, size>& bytes)
 }
 
 template <std::size_t size>
-void FromJson(const JsonNode& node, std::array<unsigned char, size>& bytes)
+void FromJson(const JsonNode& node, std::array<unsigned char, size>& bytes, bool isOlder)
 {
     const QByteArray raw = node.ToBytes();
-    if (static_cast<std::size_t>(raw.size()) != size) {
+    const auto count = static_cast<std::size_t>(raw.size());
+    if (count < size || (count > size && !isOlder)) {
         node.Refuse(SceneText::tr("must be %1 bytes").arg(size));
     }
-    std::copy(raw.begin(), raw.end(), bytes.begin());
+    std::copy(raw.end() - static_cast<int>(size), raw.end(), bytes.begin());
 }
 
 template <class Record, std::enable_if_t<isRecord<Record>, int> = 0>
@@ -140,9 +141,19 @@ QJsonObject ToJson(const Record& record)
 }
 
 template <class Record, std::enable_if_t<isRecord<Record>, int> = 0>
-void FromJson(const JsonNode& node, Record& record)
+void FromJson(const JsonNode& node, Record& record, bool isOlder)
 {
-    ForEachField(record, [&](const auto& field) { FromJson(node[field.name], record.*field.member); });
+    ForEachField(record, [&](const auto& field) {
+        auto& value = record.*field.member;
+        if (isOlder && !node.Has(field.name)) {
+            return;
+        }
+        if constexpr (isRecord<std::decay_t<decltype(value)>>) {
+            FromJson(node[field.name], value, isOlder);
+        } else {
+            FromJson(node[field.name], value);
+        }
+    });
 }
 
 } // namespace
@@ -154,10 +165,10 @@ QJsonObject StateToJson(const Record& record)
 }
 
 template <class Record>
-Record StateFromJson(const JsonNode& node)
+Record StateFromJson(const JsonNode& node, bool isOlder)
 {
     Record record;
-    FromJson(node, record);
+    FromJson(node, record, isOlder);
     return record;
 }
 
@@ -165,9 +176,9 @@ template QJsonObject StateToJson(const ClothState&);
 template QJsonObject StateToJson(const MaterialState&);
 template QJsonObject StateToJson(const ObjectState&);
 template QJsonObject StateToJson(const ObjectTraits&);
-template ClothState StateFromJson(const JsonNode&);
-template MaterialState StateFromJson(const JsonNode&);
-template ObjectState StateFromJson(const JsonNode&);
-template ObjectTraits StateFromJson(const JsonNode&);
+template ClothState StateFromJson(const JsonNode&, bool);
+template MaterialState StateFromJson(const JsonNode&, bool);
+template ObjectState StateFromJson(const JsonNode&, bool);
+template ObjectTraits StateFromJson(const JsonNode&, bool);
 
 } // namespace Host

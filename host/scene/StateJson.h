@@ -13,7 +13,9 @@ template <class Record>
 QJsonObject StateToJson(const Record& record);
 
 /// What StateToJson() wrote. Throws SceneFormatError.
+/// \param isOlder  it was written by a version that may not have known all members: those that are missing keep their
+///                 defaults, and of bytes in reserve, which members have been taken from since, the last ones count
 template <class Record>
-Record StateFromJson(const JsonNode& node);
+Record StateFromJson(const JsonNode& node, bool isOlder);
 
 } // namespace Host

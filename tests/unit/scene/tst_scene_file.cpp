@@ -1,5 +1,6 @@
 #include "host/scene/Scene.h"
 #include "host/scene/SceneFile.h"
+#include "host/scene/SceneJson.h"
 
 #include "tests/support/Files.h"
 #include "tests/support/TestCase.h"
@@ -41,6 +42,9 @@ private Q_SLOTS:
     void sceneNeedsNoOtherFile();
 
     void handWrittenNumbersAreTaken();
+    void fileOfAnEarlierVersionOpens();
+    void earlierVersionMayLackFields_data();
+    void earlierVersionMayLackFields();
 
     void saveReplacesTheFile();
 
@@ -348,6 +352,88 @@ void TestSceneFile::handWrittenNumbersAreTaken()
     QCOMPARE(values.drag, 0.1F);
     QCOMPARE(values.friction, std::numeric_limits<float>::infinity());
     QCOMPARE(values.mass, std::numeric_limits<qint64>::min());
+}
+
+/// A file that version 2 wrote stays as it is, however many fields the records may get.
+void TestSceneFile::fileOfAnEarlierVersionOpens()
+{
+    std::unique_ptr<Scene> scene;
+    const SceneFileResult result = Host::LoadScene(QStringLiteral(SOFTCLOTH_SCENE_SAMPLES "/version-2.scene"), scene);
+    QVERIFY2(result.ok, qPrintable(result.error));
+    QCOMPARE(scene->Objects().size(), 1);
+    const Host::ClothState& cloth = scene->Objects()[0]->meshes[0].materialSlots[0].cloth;
+    Host::ClothState expected;
+    expected.active = true;
+    expected.useGlobalGravity = false;
+    expected.property.mass = 7;
+    expected.property.solverFrequency = 300;
+    expected.property.tetherStiffness = 0.75F;
+    expected.property.tetherLimit = 1.25F;
+    expected.property.friction = 0.25F;
+    expected.property.damping = 0.125F;
+    expected.property.drag = 0.375F;
+    expected.property.stiffness = 0.625F;
+    expected.property.stiffnessFrequency = 12.5F;
+    expected.property.bending = 0.875F;
+    expected.property.linearInertiaScale = 0.5F;
+    expected.property.angularInertiaScale = 1.5F;
+    expected.property.centrifugalInertiaScale = 2.0F;
+    expected.property.collisionMassScale = 17.5F;
+    expected.property.sleepLinearVelocity = 0.0625F;
+    expected.property.wakeCounterValue = 0.75F;
+    expected.property.reserved.back() = 0xAB;
+    expected.collision = {false, true, 1.5F, 0.25F};
+    expected.wind.externalAcceleration = {1, -2, 3};
+    expected.wind.randomAcceleration = {4, 5, -6};
+    expected.wind.frequency = 2.5F;
+    expected.wind.randomFactor = {3, 8};
+    QVERIFY(cloth == expected);
+    QCOMPARE(scene->UndoStack().count(), 1);
+}
+
+void TestSceneFile::earlierVersionMayLackFields_data()
+{
+    QTest::addColumn<int>("version");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("earlier") << Host::SceneFormat::version - 1 << true;
+    QTest::newRow("this one") << Host::SceneFormat::version << false;
+}
+
+void TestSceneFile::earlierVersionMayLackFields()
+{
+    QFETCH(int, version);
+    Scene scene;
+    auto& saved = scene.AddObject(Sample::Robe(QStringLiteral("Robe"))).meshes[0].materialSlots[0].cloth.property;
+    saved.mass = 5;
+    saved.drag = 0.75F;
+    saved.reserved.back() = 0xAB;
+    const std::size_t reserved = saved.reserved.size();
+    QVERIFY(Host::SaveScene(scene, PathOf("robe.scene")).ok);
+    const QJsonValue whole = QJsonDocument::fromJson(Files::Read(PathOf("robe.scene"))).object();
+    const QString property = QStringLiteral("objects.0.meshes.0.slots.0.cloth.property.");
+    const auto load = [&](const QString& place, const QJsonValue& value, std::unique_ptr<Scene>& loaded) {
+        QJsonValue root = JsonEdit::With(whole, QStringLiteral("version"), version);
+        root = JsonEdit::With(root, property + place, value);
+        Files::Write(PathOf("robe.scene"), QJsonDocument(root.toObject()).toJson());
+        return Host::LoadScene(PathOf("robe.scene"), loaded).ok;
+    };
+
+    std::unique_ptr<Scene> lacking;
+    QTEST(load(QStringLiteral("drag"), QJsonValue::Undefined, lacking), "opens");
+    const QByteArray longer = QByteArray(3, 'x') + QByteArray(int(reserved) - 1, '\0') + '\xAB';
+    std::unique_ptr<Scene> withReserve;
+    QTEST(load(QStringLiteral("reserved"), QString::fromLatin1(longer.toBase64()), withReserve), "opens");
+    if (lacking) {
+        const auto& values = lacking->Objects()[0]->meshes[0].materialSlots[0].cloth.property;
+        QCOMPARE(values.mass, qint64(5));
+        QCOMPARE(values.drag, MV::SoftClothPropertyData().drag);
+    }
+    if (withReserve) {
+        const auto& values = withReserve->Objects()[0]->meshes[0].materialSlots[0].cloth.property;
+        QVERIFY(values.reserved == saved.reserved);
+    }
+    std::unique_ptr<Scene> none;
+    QVERIFY(!load(QStringLiteral("reserved"), QStringLiteral("AAAA"), none)); // too few
 }
 
 void TestSceneFile::saveReplacesTheFile()

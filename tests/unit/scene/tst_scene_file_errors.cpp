@@ -1,5 +1,6 @@
 #include "host/scene/Scene.h"
 #include "host/scene/SceneFile.h"
+#include "host/scene/SceneJson.h"
 
 #include "tests/support/Files.h"
 #include "tests/support/FullDisk.h"
@@ -68,7 +69,8 @@ void TestSceneFileErrors::damagedFileIsRefused_data()
                                   << QStringLiteral("no scene of this application");
     QTest::newRow("format of another type")
         << QByteArray("{\"format\":1,\"version\":1}") << QStringLiteral("no scene of this application");
-    QTest::newRow("newer version") << QByteArray("{\"format\":\"softcloth-scene\",\"version\":3}")
+    QTest::newRow("newer version") << "{\"format\":\"softcloth-scene\",\"version\":" +
+                                          QByteArray::number(Host::SceneFormat::version + 1) + '}'
                                    << QStringLiteral("newer version");
     QTest::newRow("no version") << QByteArray("{\"format\":\"softcloth-scene\"}")
                                 << QStringLiteral("version is missing");
