@@ -48,6 +48,7 @@ private Q_SLOTS:
     void uvLayoutOpensInTheEditor();
     void paintedUvLayoutIsTheWeightImage();
     void cancelledUvLayoutIsNoFailure();
+    void largePreviewIsSharp();
 };
 
 namespace {
@@ -414,6 +415,33 @@ void TestWeightImagesInHost::cancelledUvLayoutIsNoFailure()
     const QStringList calls = TakeCalls(panel.App().Journal());
     QCOMPARE(calls.filter(QStringLiteral("ExportUvTexture")).size(), 1);
     QCOMPARE(calls.filter(QStringLiteral("ShowMessageBox")).size(), 0);
+}
+
+void TestWeightImagesInHost::largePreviewIsSharp()
+{
+    WeightPanel panel;
+    // Stripes that a thumbnail has too few pixels for.
+    QImage stripes(512, 512, QImage::Format_Grayscale8);
+    for (int y = 0; y < stripes.height(); ++y) {
+        for (int x = 0; x < stripes.width(); ++x) {
+            stripes.scanLine(y)[x] = x / 8 % 2 == 0 ? 255 : 0;
+        }
+    }
+    panel.Load(panel.Image(QStringLiteral("stripes.png"), stripes));
+    auto* preview = Child<QLabel>(&panel.Dialog(), "qtBitmapLabel");
+    const auto clearPixels = [preview] {
+        const QImage shown = preview->grab().toImage();
+        int count = 0;
+        for (int x = 0; x < shown.width(); ++x) {
+            const int gray = qGray(shown.pixel(x, shown.height() / 2));
+            count += gray < 16 || gray > 239 ? 1 : 0;
+        }
+        return count;
+    };
+    const int side = preview->contentsRect().height() * preview->devicePixelRatio();
+    QTRY_VERIFY(clearPixels() > side / 2);
+    preview->setEnabled(false);
+    QVERIFY(clearPixels() > side / 2);
 }
 
 SOFTCLOTH_TEST(TestWeightImagesInHost)
