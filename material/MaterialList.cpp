@@ -187,9 +187,20 @@ BF::Result CSoftClothMaterialDlg::AddMaterialRow(const Material& material)
 /// Makes \p row current in the list and in the selection.
 void CSoftClothMaterialDlg::ChooseRow(int row)
 {
-    Selection().material = RowDatum(row, materialRole);
-    Selection().mesh = RowDatum(row, meshRole);
+    SelectRow(row);
     m_ui.materialListWidget->setCurrentRow(row);
+}
+
+/// Makes \p row what the whole panel edits. What is not committed was meant for the row before.
+void CSoftClothMaterialDlg::SelectRow(int row)
+{
+    const std::size_t material = RowDatum(row, materialRole);
+    const std::size_t mesh = RowDatum(row, meshRole);
+    if (material != Selection().material || mesh != Selection().mesh) {
+        m_plugin->DropEdits();
+    }
+    Selection().material = material;
+    Selection().mesh = mesh;
 }
 
 /// An id that a row carries; 0 when it carries none.
@@ -257,8 +268,7 @@ void CSoftClothMaterialDlg::OnChangeCurrentItemOfMaterialList()
     if (row == noRow) {
         return;
     }
-    Selection().material = RowDatum(row, materialRole);
-    Selection().mesh = RowDatum(row, meshRole);
+    SelectRow(row);
     m_plugin->UpdateAllUIs(true);
 }
 

@@ -194,6 +194,10 @@ BF::Result CSoftClothMaterialDlg::UpdateUi()
         return BF::Results::NothingDone;
     }
     EnableEditWidgets(true);
+    // Typed text goes even where the host has the values not read again.
+    for (QComboSpinBox* box : {m_ui.brightnessComboSpinBox, m_ui.contrastComboSpinBox}) {
+        ShowValue(box, ValueOf(box));
+    }
     const BF::Result diffuse = ShowThumbnail(m_ui.diffuseItemLabel, true);
     if (diffuse.IsFailure()) {
         return diffuse;

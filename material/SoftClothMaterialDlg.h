@@ -149,6 +149,7 @@ private:
     BF::Result FillMaterialTable(const std::vector<Material>& materials) const;
     BF::Result AddMaterialRow(const Material& material);
     void ChooseRow(int row);
+    void SelectRow(int row);
     std::size_t RowDatum(int row, int role) const;
     std::size_t CurrentMaterial() const;
 

@@ -177,6 +177,9 @@ void CSoftClothMaterialDlg::OnClickOpenPathPushButton()
 
 void CSoftClothMaterialDlg::WriteWeightAdjust(bool flag1, bool flag2)
 {
+    if (IsDroppingEdits()) {
+        return;
+    }
     const QPointer<CSoftClothMaterialDlg> self(this);
     const WeightImageAdjust adjust{0, ValueOf(m_ui.brightnessComboSpinBox), ValueOf(m_ui.contrastComboSpinBox)};
     const BF::Result written =

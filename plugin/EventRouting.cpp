@@ -11,6 +11,7 @@
 #include "sections/SoftClothCollisionSection.h"
 #include "sections/SoftClothPropertySection.h"
 #include "sections/SoftClothWindSection.h"
+#include "ui/EditDrop.h"
 
 namespace MV {
 
@@ -111,6 +112,7 @@ BF::Result CPhysicsSoftClothPlugin::CheckObjectGates(BF::CHandle* candidate)
 
 BF::Result CPhysicsSoftClothPlugin::AdoptObject(BF::CHandle* candidate)
 {
+    DropEdits();
     m_selection.Clear();
     m_selection.object = candidate;
     const BF::Result reloaded = ReloadMaterials(true);
@@ -130,6 +132,7 @@ BF::Result CPhysicsSoftClothPlugin::UpdateAllUIs(bool sameObject)
     if (!Host()) {
         return BF::Results::InvalidArgument;
     }
+    DropSectionEdits();
     BF::Result result = Scene().IsPhysicsActive(m_selection.object, softClothPhysics, m_selection.softClothActive);
     if (result.IsFailure()) {
         return result;
@@ -153,6 +156,7 @@ void CPhysicsSoftClothPlugin::ShowAll(bool show)
 {
     if (!show) {
         const QPointer<CPhysicsSoftClothPlugin> self(this);
+        DropEdits();
         m_selection.Clear();
         if (Host() && Scene().GetDialogMode() == EDialogMode::WeightMap) {
             Host()->GetUiService()->SetDialogMode(EDialogMode::None);
@@ -177,8 +181,25 @@ void CPhysicsSoftClothPlugin::EnableAll(bool enable)
     VisitPart(m_windSection, enableSection);
 }
 
+void CPhysicsSoftClothPlugin::DropEdits()
+{
+    DropSectionEdits();
+    VisitPart(m_materialDlg, [](auto& dialog) { MV::DropEdits(dialog); });
+}
+
+/// A refresh is enough for those. The dialog's values are written while they are being changed, and a refresh in such
+/// a write does not end the edit.
+void CPhysicsSoftClothPlugin::DropSectionEdits()
+{
+    const auto drop = [](auto& section) { MV::DropEdits(section); };
+    VisitPart(m_propertySection, drop);
+    VisitPart(m_collisionSection, drop);
+    VisitPart(m_windSection, drop);
+}
+
 void CPhysicsSoftClothPlugin::ClearSelectionAndUpdate()
 {
+    DropEdits();
     m_selection.Clear();
     UpdateUi();
 }
@@ -201,6 +222,7 @@ void CPhysicsSoftClothPlugin::ObjectDataChanged(const BF::CArrayList<BF::CHandle
         ClearSelectionAndUpdate();
     } else if (HasAnyBit(changed, Bit::Removed)) {
         if (objects.Contains(m_selection.object)) {
+            DropEdits();
             m_selection.object = nullptr;
             UpdateUi();
         }

@@ -78,6 +78,9 @@ public:
     void ShowAll(bool show);
     /// Enables or disables the four sections.
     void EnableAll(bool enable);
+    /// Drops what the user has begun in the sections and the material dialog and not committed. To be called before the
+    /// selection's object, mesh or material changes: it was meant for those.
+    void DropEdits();
 
 private Q_SLOTS:
     void ObjectDataChanged(const BF::CArrayList<BF::CHandle*>& objects, MV::EObjectChangedDataType changed);
@@ -105,6 +108,7 @@ private:
     BF::Result AdoptObject(BF::CHandle* candidate);
     BF::Result ReloadMaterials(bool reset);
     bool IsShownObjectSelected() const;
+    void DropSectionEdits();
     void ClearSelectionAndUpdate();
 
     SoftClothSelection m_selection;

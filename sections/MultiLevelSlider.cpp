@@ -244,6 +244,7 @@ void CMultiLevelSlider::StartDrag(std::size_t index, int cursorX)
     // The owner may have set the slider up again when it was notified of the selection.
     if (index < m_levels.size() && !m_levels[index].fixed) {
         m_draggedIndex = int(index);
+        m_dragStart = m_levels[index].value;
         m_dragOffset = m_halfWidth - cursorX + LevelPosition(index);
     }
 }
@@ -312,15 +313,26 @@ void CMultiLevelSlider::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::EnabledChange) {
         // A disabled widget never sees the release.
-        m_draggedIndex = -1;
+        DropDrag();
     }
     QWidget::changeEvent(event);
 }
 
 void CMultiLevelSlider::hideEvent(QHideEvent* event)
 {
-    m_draggedIndex = -1;
+    DropDrag();
     QWidget::hideEvent(event);
+}
+
+void CMultiLevelSlider::DropDrag()
+{
+    if (m_draggedIndex < 0) {
+        return;
+    }
+    m_levels[std::size_t(m_draggedIndex)].value = m_dragStart;
+    m_draggedIndex = -1;
+    update();
+    Report(valueChanging);
 }
 
 /// Takes a copy: the owner may exchange the function from within the call.

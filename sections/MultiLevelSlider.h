@@ -78,6 +78,10 @@ public:
     /// Selects a level without calling anybody.
     void SetSelectedIndex(std::size_t index);
 
+    /// Drops a drag: the level is back where it was, and only valueChanging is called. It happens by itself when the
+    /// slider is disabled or hidden.
+    void DropDrag();
+
     // Set by the owner; an empty one is not called.
     Callback valueChanging;    ///< A drag has moved a level.
     Callback valueChanged;     ///< A drag is ending, whether or not it moved anything.
@@ -117,6 +121,7 @@ private:
     QSize m_handleSize;
     int m_draggedIndex = -1;
     int m_dragOffset = 0;
+    int m_dragStart = 0; ///< The dragged level's value before.
     std::size_t m_selectedIndex = 0;
     int m_hoveredIndex = -1;
     QColor m_lineColor{200, 200, 200, 255};

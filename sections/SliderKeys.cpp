@@ -57,6 +57,9 @@ bool CSliderKeys::eventFilter(QObject* watched, QEvent* event)
         }
         break;
     case QEvent::KeyRelease:
+        if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
+            m_keyDown = false;
+        }
         if (m_run && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
             event->accept();
             Commit();
@@ -77,6 +80,7 @@ bool CSliderKeys::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::FocusOut:
     case QEvent::MouseButtonPress: {
+        m_keyDown = false;
         m_mouseDown = event->type() == QEvent::MouseButtonPress;
         const QPointer<CSliderKeys> self(this);
         Commit();
@@ -107,8 +111,9 @@ bool CSliderKeys::PressKey(const QKeyEvent& event)
     if (!step || !isPlain || m_slider->SelectedIndex() >= m_setup.levels) {
         return false;
     }
+    m_keyDown = m_keyDown || !event.isAutoRepeat();
     // A handle that is being dragged stays with the mouse.
-    if (!m_mouseDown) {
+    if (!m_mouseDown && m_keyDown) {
         const qint64 wanted = m_slider->LevelValue(m_slider->SelectedIndex()) + *step;
         MoveTo(int(qBound(qint64(m_setup.minimum), wanted, qint64(m_setup.maximum))));
     }
@@ -158,6 +163,15 @@ int CSliderKeys::KeptInOrder(int value) const
         value = after <= value ? qMax(after, m_setup.minimum + 1) - 1 : value;
     }
     return value;
+}
+
+void CSliderKeys::Drop()
+{
+    m_keyDown = false;
+    if (const std::optional<Run> run = std::exchange(m_run, std::nullopt)) {
+        m_slider->SetLevelValue(run->level, run->start);
+        m_setup.moved();
+    }
 }
 
 void CSliderKeys::Commit()

@@ -17,7 +17,8 @@ class CMultiLevelSlider;
 /// The handles keep their order. While the slider has the focus, the selected handle has a mark.
 ///
 /// An edit is committed when the key is let go, at the loss of the focus and before a drag. One that was not, when the
-/// slider is hidden or disabled or when the owner calls Drop(), is dropped.
+/// slider is hidden or disabled or when the owner calls Drop(), is dropped: the handle is back where it was, and a key
+/// that is still held does nothing more.
 class CSliderKeys : public QObject
 {
     Q_OBJECT
@@ -37,8 +38,8 @@ public:
     /// \param slider  set up already; owns the keys
     CSliderKeys(CMultiLevelSlider* slider, Setup setup);
 
-    /// Forgets an edit that was not committed: the slider has been given other values.
-    void Drop() { m_run.reset(); }
+    /// Drops an edit that was not committed.
+    void Drop();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -61,6 +62,7 @@ private:
     CMultiLevelSlider* m_slider;
     Setup m_setup;
     std::optional<Run> m_run;
+    bool m_keyDown = false; ///< One of the keys that step was pressed here, and the edit with it not dropped.
     bool m_mouseDown = false;
 };
 

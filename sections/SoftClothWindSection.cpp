@@ -244,11 +244,19 @@ std::array<int, 2> CSoftClothWindSection::RandomFactor() const
     return m_slider ? std::array<int, 2>{m_slider->LevelValue(0), m_slider->LevelValue(1)} : std::array<int, 2>{};
 }
 
-void CSoftClothWindSection::ShowRandomFactor(int first, int second)
+void CSoftClothWindSection::DropEdit()
 {
     if (m_sliderKeys) {
         m_sliderKeys->Drop();
     }
+    if (m_slider) {
+        m_slider->DropDrag();
+    }
+}
+
+void CSoftClothWindSection::ShowRandomFactor(int first, int second)
+{
+    DropEdit();
     if (m_slider) {
         m_slider->SetLevelValue(0, first);
         m_slider->SetLevelValue(1, second);

@@ -45,6 +45,9 @@ public:
     /// \return 0; 1 when there is no active soft cloth to show; or the host's failure
     BF::Result UpdateUi();
 
+    /// Drops a drag of the random factor's handles, and a run of keys on them, that has not been committed.
+    Q_INVOKABLE void DropEdit();
+
     /// Shows and writes the values of a profile's wind group. A missing key or list element counts as 0. The
     /// host gets the values as they are in the file, the widgets bring them into their ranges.
     void LoadProfile(const CIniGroup& profile);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/EditDrop.h"
 #include "ui/FormComponent.h"
 #include "ui/SignalBlocker.h"
 
@@ -102,14 +103,19 @@ void ConnectClicked(QAbstractButton* button, Section* section, void (Section::*h
     }
 }
 
-/// Calls \p handler with the box's value each time the user commits an edit, while \p section lives.
+/// Calls \p handler with the box's value each time the user commits an edit, while \p section lives. What a box commits
+/// while edits are dropped is not the user's.
 template <class Box, class Handler>
 void ConnectEdited(Box* box, const QObject* section, Handler handler)
 {
     if (!box) {
         return;
     }
-    const auto pass = [box, handler] { handler(ValueOf(box)); };
+    const auto pass = [box, handler] {
+        if (!IsDroppingEdits()) {
+            handler(ValueOf(box));
+        }
+    };
     if constexpr (IsComboBox<Box>) {
         QObject::connect(box, &Box::EditFinished, section, pass);
     } else {

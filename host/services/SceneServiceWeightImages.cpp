@@ -19,6 +19,7 @@ BF::Result SceneService::GetWeightImageAdjust(BF::CHandle* object, Id mesh, Id m
 {
     return ReadSlot("GetWeightImageAdjust", object, mesh, material, {Out(adjust)}, [&](const MaterialSlot& slot) {
         adjust = {0, slot.cloth.weight.brightness, slot.cloth.weight.contrast};
+        App().Weights().NoteAdjustRead({object, mesh, material});
     });
 }
 

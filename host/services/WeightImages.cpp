@@ -227,6 +227,13 @@ bool WeightImages::IsCallersAdjust(const ClothAddress& address) const
     return m_adjusting.run != SceneEdit::noRun && !m_adjusting.wasRefused && IsSame(m_adjusting.address, address);
 }
 
+void WeightImages::NoteAdjustRead(const ClothAddress& address)
+{
+    if (!IsSame(m_adjusting.address, address)) {
+        EndAdjusting();
+    }
+}
+
 /// The caller shows a box that says nothing of its own, and takes the step back.
 BF::Result WeightImages::RefuseLoad(const QString& text, const QString& reason)
 {

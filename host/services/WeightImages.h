@@ -64,10 +64,13 @@ public:
     std::optional<int> MovingVertices(const ClothAddress& address);
 
     /// True while brightness and contrast are what the caller last set: between a write that is not final and the
-    /// next final one, unless something was refused or undone.
+    /// next final one, unless something was refused or undone, or the caller has gone on to another material.
     bool IsCallersAdjust(const ClothAddress& address) const;
     /// The next write begins a step of its own.
     void EndAdjusting() { m_adjusting = {}; }
+    /// The caller has read brightness and contrast of a material, and shows them from now on. It gives up an adjustment
+    /// of another one: no final write comes.
+    void NoteAdjustRead(const ClothAddress& address);
 
     /// Leaves a step that changes nothing, for a refusal of which there is nothing else to take back.
     void PushRefusal(const QString& text);

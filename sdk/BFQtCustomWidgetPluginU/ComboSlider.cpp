@@ -1,5 +1,6 @@
 #include "BFQtCustomWidgetPluginU/ComboSlider.h"
 
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyle>
@@ -38,6 +39,9 @@ void ComboSlider::TakeHandleTo(int x)
 
 void ComboSlider::mousePressEvent(QMouseEvent* event)
 {
+    if (event->buttons() == event->button()) {
+        m_button.Press();
+    }
     if (event->buttons() != Qt::LeftButton || HandleRect().contains(event->pos())) {
         QSlider::mousePressEvent(event);
         return;
@@ -50,18 +54,52 @@ void ComboSlider::mousePressEvent(QMouseEvent* event)
     event->setAccepted(onHandle.isAccepted());
 }
 
+void ComboSlider::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_button.IsDropped()) {
+        QSlider::mouseMoveEvent(event);
+    }
+}
+
 void ComboSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     QSlider::mouseReleaseEvent(event);
+    if (event->buttons() == Qt::NoButton) {
+        m_button.Release();
+    }
     EndRun();
+}
+
+void ComboSlider::keyPressEvent(QKeyEvent* event)
+{
+    if (m_key.TakePress(*event)) {
+        QSlider::keyPressEvent(event);
+    }
 }
 
 void ComboSlider::keyReleaseEvent(QKeyEvent* event)
 {
     QSlider::keyReleaseEvent(event);
     if (!event->isAutoRepeat()) {
+        m_key.Release();
         EndRun();
     }
+}
+
+void ComboSlider::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) {
+        DropEdit();
+    }
+    QSlider::changeEvent(event);
+}
+
+void ComboSlider::hideEvent(QHideEvent* event)
+{
+    if (!event->spontaneous()) {
+        DropEdit();
+    }
+    QSlider::hideEvent(event);
 }
 
 void ComboSlider::wheelEvent(QWheelEvent* event)
@@ -78,7 +116,12 @@ void ComboSlider::wheelEvent(QWheelEvent* event)
 void ComboSlider::focusOutEvent(QFocusEvent* event)
 {
     QSlider::focusOutEvent(event);
-    EndEdit();
+    m_key.Release();
+    if (IsTakenAway(*this)) {
+        DropEdit();
+    } else {
+        EndEdit();
+    }
 }
 
 void ComboSlider::timerEvent(QTimerEvent* event)
@@ -103,4 +146,13 @@ void ComboSlider::EndEdit()
 {
     m_wheelPause.stop();
     Q_EMIT EditEnded();
+}
+
+void ComboSlider::DropEdit()
+{
+    m_key.Drop();
+    m_button.Drop();
+    m_wheelPause.stop();
+    setSliderDown(false);
+    Q_EMIT EditDropped();
 }

@@ -19,6 +19,9 @@
 /// The slider may have limits of its own, which keep it to the part of the range that is of everyday use: its whole
 /// length covers that part then. The spin box takes and shows the values beyond them all the same. For such a
 /// value the handle is at the nearer end, and changes nothing until the user moves it.
+///
+/// What the user has not committed is dropped by DropEdit(), and when the combo is disabled or hidden. A step that
+/// somebody was told of as a changed value is not taken back by that: whoever follows the value has it.
 template <class SpinBox>
 class ComboSpinBoxBase : public QWidget
 {
@@ -44,19 +47,23 @@ public:
         FitSlider();
 
         QObject::connect(m_slider, &QSlider::valueChanged, this, [this](int position) {
-            const QSignalBlocker silent(m_spinBox);
             const Number before = Value();
-            m_spinBox->setValue(ValueAt(position));
+            {
+                const QSignalBlocker silent(m_spinBox);
+                m_spinBox->setValue(ValueAt(position));
+            }
             if (Value() != before) {
-                TellValueChanged(Value());
+                TellUsersValue();
             }
         });
-        QObject::connect(m_spinBox, qOverload<Number>(&SpinBox::valueChanged), this, [this](Number value) {
+        QObject::connect(m_spinBox, qOverload<Number>(&SpinBox::valueChanged), this, [this] {
             FitSlider();
-            TellValueChanged(value);
+            TellUsersValue();
         });
         QObject::connect(m_slider, &ComboSlider::EditEnded, this, [this] { FinishEdit(); });
         QObject::connect(m_spinBox, &SpinBox::RecordEditingValue, this, [this] { FinishEdit(); });
+        QObject::connect(m_slider, &ComboSlider::EditDropped, this, [this] { DropEdit(); });
+        QObject::connect(m_spinBox, &SpinBox::EditDropped, this, [this] { DropEdit(); });
     }
 
     ~ComboSpinBoxBase() override
@@ -71,10 +78,33 @@ public:
     /// The value that both halves show.
     Number Value() const { return m_spinBox->value(); }
 
-    /// Shows \p value, brought into the range. Tells of a changed value, but not of an edit.
+    /// Shows \p value, brought into the range. Tells of a changed value, but not of an edit. An edit ends with it,
+    /// except one whose steps are followed and that has come to the same value: that goes on.
     void SetValue(Number value)
     {
         ChangeSilently([value](SpinBox& box) { box.setValue(value); });
+        if (!IsValueFollowed()) {
+            StartEditAnew();
+        }
+    }
+
+    /// Drops what the user has typed, stepped or dragged and not committed, without a signal: the combo shows the value
+    /// from before, or the last one that somebody was told of. Whatever is still held does nothing more.
+    void DropEdit()
+    {
+        if (m_isDropping) {
+            return;
+        }
+        m_isDropping = true;
+        m_slider->DropEdit();
+        m_spinBox->DropEdit();
+        {
+            const QSignalBlocker silent(m_spinBox);
+            m_spinBox->setValue(m_settled);
+        }
+        FitSlider();
+        StartEditAnew();
+        m_isDropping = false;
     }
 
     Number Minimum() const { return m_spinBox->minimum(); }
@@ -119,6 +149,8 @@ protected:
     virtual void TellValueChanged(Number value) = 0;
     /// The user has committed an edit.
     virtual void TellEditFinished() = 0;
+    /// Whether there is anybody who is told of changed values.
+    virtual bool IsValueFollowed() const = 0;
 
     const SpinBox& Box() const { return *m_spinBox; }
 
@@ -133,8 +165,8 @@ protected:
         }
         FitSlider();
         if (Value() != before) {
-            m_editStart = Value();
-            TellValueChanged(m_editStart);
+            StartEditAnew();
+            TellValueChanged(Value());
         }
     }
 
@@ -217,10 +249,25 @@ private:
         m_slider->setValue(first + int(std::lround(StepsTo(nearest))));
     }
 
+    void TellUsersValue()
+    {
+        // Before anybody hears of it: in the call, this combo can be disabled or be given another value.
+        if (IsValueFollowed()) {
+            m_settled = Value();
+        }
+        TellValueChanged(Value());
+    }
+
+    void StartEditAnew()
+    {
+        m_editStart = Value();
+        m_settled = Value();
+    }
+
     void FinishEdit()
     {
         if (Value() != m_editStart) {
-            m_editStart = Value();
+            StartEditAnew();
             TellEditFinished();
         }
     }
@@ -230,4 +277,6 @@ private:
     std::optional<Number> m_sliderMinimum;
     std::optional<Number> m_sliderMaximum;
     Number m_editStart{}; ///< The value before the user's current edit.
+    Number m_settled{};   ///< The value that stays when that edit is dropped.
+    bool m_isDropping = false;
 };

@@ -1,5 +1,7 @@
 #include "BFQtCustomWidgetPluginU/QComboDoubleSpinBox.h"
 
+#include <QMetaMethod>
+
 QComboDoubleSpinBox::QComboDoubleSpinBox(QWidget* parent)
     : ComboSpinBoxBase<QDoubleSpinBoxEx>(parent)
 {
@@ -23,4 +25,10 @@ void QComboDoubleSpinBox::TellValueChanged(double value)
 void QComboDoubleSpinBox::TellEditFinished()
 {
     Q_EMIT EditFinished();
+}
+
+bool QComboDoubleSpinBox::IsValueFollowed() const
+{
+    static const QMetaMethod valueChanged = QMetaMethod::fromSignal(&QComboDoubleSpinBox::ValueChanged);
+    return isSignalConnected(valueChanged);
 }

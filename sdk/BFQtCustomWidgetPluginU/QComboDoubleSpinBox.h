@@ -34,4 +34,5 @@ Q_SIGNALS:
 protected:
     void TellValueChanged(double value) override;
     void TellEditFinished() override;
+    bool IsValueFollowed() const override;
 };

@@ -1,5 +1,7 @@
 #include "BFQtCustomWidgetPluginU/QComboSpinBox.h"
 
+#include <QMetaMethod>
+
 QComboSpinBox::QComboSpinBox(QWidget* parent)
     : ComboSpinBoxBase<QSpinBoxEx>(parent)
 {
@@ -13,4 +15,10 @@ void QComboSpinBox::TellValueChanged(int value)
 void QComboSpinBox::TellEditFinished()
 {
     Q_EMIT EditFinished();
+}
+
+bool QComboSpinBox::IsValueFollowed() const
+{
+    static const QMetaMethod valueChanged = QMetaMethod::fromSignal(&QComboSpinBox::ValueChanged);
+    return isSignalConnected(valueChanged);
 }

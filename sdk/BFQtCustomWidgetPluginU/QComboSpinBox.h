@@ -29,4 +29,5 @@ Q_SIGNALS:
 protected:
     void TellValueChanged(int value) override;
     void TellEditFinished() override;
+    bool IsValueFollowed() const override;
 };

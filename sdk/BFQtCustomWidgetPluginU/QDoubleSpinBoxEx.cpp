@@ -36,7 +36,17 @@ double QDoubleSpinBoxEx::valueFromText(const QString& text) const
         isGroupSeparatorShown() ? text : TypedNumber(text, prefix(), suffix(), locale()).InLocale());
 }
 
+void QDoubleSpinBoxEx::DropEdit()
+{
+    DropCurrentEdit();
+}
+
 void QDoubleSpinBoxEx::Committed()
 {
     Q_EMIT RecordEditingValue();
+}
+
+void QDoubleSpinBoxEx::Dropped()
+{
+    Q_EMIT EditDropped();
 }

@@ -17,7 +17,17 @@ QValidator::State QSpinBoxEx::validate(QString& input, int& position) const
     return QSpinBox::validate(input, position);
 }
 
+void QSpinBoxEx::DropEdit()
+{
+    DropCurrentEdit();
+}
+
 void QSpinBoxEx::Committed()
 {
     Q_EMIT RecordEditingValue();
+}
+
+void QSpinBoxEx::Dropped()
+{
+    Q_EMIT EditDropped();
 }

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "BFQtCustomWidgetPluginU/HeldInput.h"
+
 #include <QBasicTimer>
 #include <QHideEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <QTimerEvent>
 #include <QWheelEvent>
 
@@ -17,6 +20,9 @@
 /// a held arrow key or arrow button is let go, and a moment after the last wheel step. Committed() is called when the
 /// value then differs from the one at the beginning. A value set by the program in between starts the edit again: it
 /// was not the user's. Without keyboard tracking, Escape takes typed text back that has not become the value yet.
+///
+/// An edit is dropped by DropCurrentEdit(), and when the box is disabled or hidden: the user did not leave it, so what
+/// was typed or stepped counts for nothing, and the box shows the value from before.
 template <class SpinBox>
 class SpinBoxCommit : public SpinBox
 {
@@ -34,9 +40,12 @@ public:
 
     void stepBy(int steps) override
     {
+        if (m_button.IsDropped() || m_key.IsDropped()) {
+            return;
+        }
+        m_stepped = true;
         const UserChange change(*this);
         SpinBox::stepBy(steps);
-        m_stepped = true;
     }
 
 protected:
@@ -44,6 +53,28 @@ protected:
 
     /// The user has committed an edit that changed the value.
     virtual void Committed() = 0;
+    /// What the user had not committed, if anything, was dropped.
+    virtual void Dropped() = 0;
+
+    /// Ends an edit without a commit. The value is silently what it was at the beginning of the edit, unless the program
+    /// has set one since. A key or an arrow button that is still held does nothing more.
+    void DropCurrentEdit()
+    {
+        ++m_drops;
+        m_key.Drop();
+        m_button.Drop();
+        m_wheelPause.stop();
+        m_stepped = false;
+        m_textChange.reset();
+        const bool isUsers = m_editing && this->value() == m_lastValue;
+        m_editing = false;
+        if (isUsers || this->lineEdit()->isModified()) {
+            const QSignalBlocker silent(this);
+            this->setValue(isUsers ? m_startValue : this->value());
+            this->lineEdit()->setModified(false);
+        }
+        Dropped();
+    }
 
     bool event(QEvent* event) override
     {
@@ -61,6 +92,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override
     {
         const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (IsStepKey(event->key()) && !m_key.TakePress(*event)) {
+            event->accept();
+            return;
+        }
         if (event->key() == Qt::Key_Escape && RevertTypedText()) {
             event->accept();
             return;
@@ -77,14 +112,27 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override
     {
         SpinBox::keyReleaseEvent(event);
-        if (m_stepped && !event->isAutoRepeat() && IsStepKey(event->key())) {
+        if (event->isAutoRepeat() || !IsStepKey(event->key())) {
+            return;
+        }
+        m_key.Release();
+        if (m_stepped) {
             Commit();
         }
+    }
+
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        if (event->buttons() == event->button()) {
+            m_button.Press();
+        }
+        SpinBox::mousePressEvent(event);
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
         SpinBox::mouseReleaseEvent(event);
+        m_button.Release();
         if (m_stepped) {
             Commit();
         }
@@ -115,13 +163,28 @@ protected:
 
     void hideEvent(QHideEvent* event) override
     {
-        // Typed text becomes the value; the loss of focus that follows commits it.
+        if (!event->spontaneous()) {
+            DropCurrentEdit();
+        }
+        // Of a window that is minimised: typed text becomes the value, which the loss of focus commits.
         const UserChange change(*this);
         SpinBox::hideEvent(event);
     }
 
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::EnabledChange && !this->isEnabled()) {
+            DropCurrentEdit();
+        }
+        SpinBox::changeEvent(event);
+    }
+
     void focusOutEvent(QFocusEvent* event) override
     {
+        m_key.Release();
+        if (IsTakenAway(*this)) {
+            DropCurrentEdit();
+        }
         {
             const UserChange change(*this);
             SpinBox::focusOutEvent(event);
@@ -141,6 +204,7 @@ private:
     public:
         explicit UserChange(SpinBoxCommit& box)
             : m_box(box)
+            , m_drops(box.m_drops)
             , m_before(box.value())
         {
             // A value other than the user's last one was set by the program.
@@ -150,7 +214,8 @@ private:
         }
         ~UserChange()
         {
-            if (m_box.value() == m_before) {
+            // Whoever heard of the change may have dropped the edit.
+            if (m_box.value() == m_before || m_box.m_drops != m_drops) {
                 return;
             }
             if (!m_box.m_editing) {
@@ -163,6 +228,7 @@ private:
 
     private:
         SpinBoxCommit& m_box;
+        int m_drops;
         Value m_before;
     };
 
@@ -209,6 +275,9 @@ private:
     bool m_stepped = false; ///< By an arrow or the wheel, since the last commit.
     Value m_startValue{};
     Value m_lastValue{};
+    int m_drops = 0; ///< How many times an edit was dropped.
+    HeldInput m_key; ///< One of those that step.
+    HeldInput m_button;
     std::optional<UserChange> m_textChange;
     QBasicTimer m_wheelPause;
 };

@@ -378,6 +378,8 @@ void TestMultiLevelSliderDrag::disablingEndsADrag()
 {
     SliderWindow window;
     window.Press(95);
+    window.Move(70);
+    QVERIFY(window.Values() != std::vector<int>({0, 10}));
     window.setEnabled(false);
     window.Release(95);
     window.setEnabled(true);
@@ -391,6 +393,8 @@ void TestMultiLevelSliderDrag::hidingEndsADrag()
 {
     SliderWindow window;
     window.Press(95);
+    window.Move(70);
+    QVERIFY(window.Values() != std::vector<int>({0, 10}));
     window.slider.hide();
     window.Release(95);
     window.slider.show();

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void dragBackToTheStartIsNoStep();
     void dragThroughBlackIsOneStep();
     void dragOfAnotherMaterialIsAnotherStep();
+    void readingAnotherMaterialEndsADrag();
     void undoEndsADrag();
     void callersValuesAreNotReadBackWhileDragging();
     void thumbnailShowsTheAdjustment_data();
@@ -339,6 +340,23 @@ void TestWeightImageEdits::dragOfAnotherMaterialIsAnotherStep()
     m_address = first;
     Adjust(20, 0, false);
     Adjust(30, 0, false);
+    QCOMPARE(Steps(), steps + 2);
+}
+
+/// Without a final write: whoever goes on to another material shows its values then, and has to read these again.
+void TestWeightImageEdits::readingAnotherMaterialEndsADrag()
+{
+    EmbedGray();
+    const Host::ClothAddress first = m_address;
+    const Host::ClothAddress second = Host::Scene::SlotsOf(*m_hero).at(1);
+    const int steps = Steps();
+    Adjust(10, 0, false);
+    MV::WeightImageAdjust adjust;
+    Queries().GetWeightImageAdjust(first.object, first.mesh, first.material, adjust);
+    QVERIFY(!State().reload);
+    Queries().GetWeightImageAdjust(second.object, second.mesh, second.material, adjust);
+    QVERIFY(State().reload);
+    Adjust(20, 0, false);
     QCOMPARE(Steps(), steps + 2);
 }
 

@@ -110,7 +110,7 @@ void TestSpinBoxEx::focusLossCommitsTypedValueOnce_data()
 {
     QTest::addColumn<bool>("tracking");
     QTest::addColumn<QString>("reason");
-    for (const char* reason : {"tab", "click", "window", "disabled", "hidden"}) {
+    for (const char* reason : {"tab", "click", "window"}) {
         QTest::addRow("%s, keyboard tracking", reason) << true << QString::fromLatin1(reason);
         QTest::addRow("%s, no keyboard tracking", reason) << false << QString::fromLatin1(reason);
     }
@@ -128,14 +128,10 @@ void TestSpinBoxEx::focusLossCommitsTypedValueOnce()
         QTest::keyClick(m_box, Qt::Key_Tab);
     } else if (reason == QLatin1String("click")) {
         QTest::mouseClick(m_window->Other(), Qt::LeftButton);
-    } else if (reason == QLatin1String("window")) {
+    } else {
         otherWindow.show();
         otherWindow.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&otherWindow));
-    } else if (reason == QLatin1String("disabled")) {
-        m_window->setEnabled(false);
-    } else {
-        m_box->hide();
     }
     QVERIFY(!m_box->hasFocus());
     QCOMPARE(Value(), 12.0);
