@@ -117,7 +117,7 @@ const std::vector<Action> edits{
          }
          s.App().Select({s.flag});
      },
-     "", setProperty},
+     ""},
 
     {"rigid-click", nullptr, [](S& s) { s.Click(collision, "qtCollideWithRigidCheckBox"); }, setCollision, "", true},
     {"self-click", nullptr, [](S& s) { s.Click(collision, "qtSelfCollisionCheckBox"); }, setCollision, "", true},
