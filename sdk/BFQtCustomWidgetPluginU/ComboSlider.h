@@ -7,7 +7,8 @@
 #include <QSlider>
 
 /// The slider of a combo spin box. Tells when the user is done with it: on letting go of the mouse or of an arrow key,
-/// on loss of focus, and a moment after the last wheel step. When the slider is disabled or hidden, the edit is dropped.
+/// on loss of focus, and a moment after the last wheel step. When the slider is disabled or hidden, the edit is
+/// dropped.
 class BFQTCUSTOMWIDGETPLUGINU_EXPORT ComboSlider : public QSlider
 {
     Q_OBJECT

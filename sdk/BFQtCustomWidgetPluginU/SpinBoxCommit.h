@@ -56,8 +56,8 @@ protected:
     /// What the user had not committed, if anything, was dropped.
     virtual void Dropped() = 0;
 
-    /// Ends an edit without a commit. The value is silently what it was at the beginning of the edit, unless the program
-    /// has set one since. A key or an arrow button that is still held does nothing more.
+    /// Ends an edit without a commit. The value is silently what it was at the beginning of the edit, unless the
+    /// program has set one since. A key or an arrow button that is still held does nothing more.
     void DropCurrentEdit()
     {
         ++m_drops;

@@ -16,8 +16,8 @@
 
 using MV::ECompatibleApp;
 
-/// What is typed or stepped in a box of the panel and not committed when the panel goes on to something else, is hidden,
-/// disabled or refreshed: it is written to nobody.
+/// What is typed or stepped in a box of the panel and not committed when the panel goes on to something else, is
+/// hidden, disabled or refreshed: it is written to nobody.
 class TestHalfTypedValues : public TestCase
 {
     Q_OBJECT
@@ -60,8 +60,10 @@ const Box boxes[] = {
     {"SoftClothProperty", "qtMassEXSpinBox", "9", [](const Cloth& c) { return double(c.property.mass); }},
     {"SoftClothProperty", "qtSolverFrequencyEXSpinBox", "9",
      [](const Cloth& c) { return double(c.property.solverFrequency); }},
-    {"SoftClothProperty", "qtFricionDoubleEXSpinBox", "0.75", [](const Cloth& c) { return double(c.property.friction); }},
-    {"SoftClothProperty", "qtDampingDoubleEXSpinBox", "0.75", [](const Cloth& c) { return double(c.property.damping); }},
+    {"SoftClothProperty", "qtFricionDoubleEXSpinBox", "0.75",
+     [](const Cloth& c) { return double(c.property.friction); }},
+    {"SoftClothProperty", "qtDampingDoubleEXSpinBox", "0.75",
+     [](const Cloth& c) { return double(c.property.damping); }},
     {"SoftClothProperty", "qtDragDoubleEXSpinBox", "0.75", [](const Cloth& c) { return double(c.property.drag); }},
     {"SoftClothProperty", "qtTetherLimitDoubleEXSpinBox", "9",
      [](const Cloth& c) { return double(c.property.tetherLimit); }},
@@ -124,8 +126,8 @@ struct TwoCloths : PanelFixture
     explicit TwoCloths(ECompatibleApp app)
         : PanelFixture(app)
     {
-        stone = App().AddModel(SampleModels::Make(QStringLiteral("Stone"),
-                                                  {{QStringLiteral("Rock"), {QStringLiteral("Granite")}}}));
+        stone = App().AddModel(
+            SampleModels::Make(QStringLiteral("Stone"), {{QStringLiteral("Rock"), {QStringLiteral("Granite")}}}));
         flag = AddCloth(SampleModels::Flag()).handle;
         hero = AddCloth(SampleModels::Hero()).handle;
         GiveValues();
@@ -158,8 +160,7 @@ struct TwoCloths : PanelFixture
     }
     void Refresh()
     {
-        App().Send("LaunchedImageChanged", &MV::CEventSender::LaunchedImageChanged,
-                   BF::CArrayList<BF::CHandle*>{hero});
+        App().Send("LaunchedImageChanged", &MV::CEventSender::LaunchedImageChanged, BF::CArrayList<BF::CHandle*>{hero});
     }
     ::Cloth& ClothAt(BF::CHandle* object, std::size_t slot = 0)
     {
@@ -178,9 +179,8 @@ struct TwoCloths : PanelFixture
     /// The edits that the host was asked for since the last time.
     QStringList Writes()
     {
-        return TakeCalls(App().Journal(), [](const Host::JournalEntry& entry) {
-            return entry.service == QLatin1String("Edit");
-        });
+        return TakeCalls(App().Journal(),
+                         [](const Host::JournalEntry& entry) { return entry.service == QLatin1String("Edit"); });
     }
 
     BF::CHandle* hero = nullptr;
