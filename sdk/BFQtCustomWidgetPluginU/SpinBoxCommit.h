@@ -181,7 +181,9 @@ protected:
 
     void focusOutEvent(QFocusEvent* event) override
     {
+        // A box without the focus may not be told that they are let go.
         m_key.Release();
+        m_button.Release();
         if (IsTakenAway(*this)) {
             DropCurrentEdit();
         }

@@ -45,14 +45,6 @@ namespace {
 const std::array<const char*, 5> drops{"told", "disabled", "window disabled", "hidden", "window hidden"};
 const std::array<const char*, 5> edits{"typed", "key held", "button held", "wheel", "typed with tracking"};
 
-void DropRows()
-{
-    QTest::addColumn<QString>("how");
-    for (const char* how : drops) {
-        QTest::newRow(how) << QString::fromLatin1(how);
-    }
-}
-
 /// Until the end of a run of wheel steps would be committed.
 void WaitForWheelRun(const QString& edit)
 {
@@ -169,13 +161,20 @@ void TestSpinBoxDrops::boxWithoutAnEditOnlyTells()
 
 void TestSpinBoxDrops::nextEditIsCommitted_data()
 {
-    DropRows();
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QString>("how");
+    for (const char* what : {"key held", "button held"}) {
+        for (const char* how : drops) {
+            QTest::addRow("%s, %s", what, how) << QString::fromLatin1(what) << QString::fromLatin1(how);
+        }
+    }
 }
 
 void TestSpinBoxDrops::nextEditIsCommitted()
 {
+    QFETCH(QString, what);
     QFETCH(QString, how);
-    Edit(QStringLiteral("key held"));
+    Edit(what);
     Drop(how);
     m_window->setEnabled(true);
     m_box->setEnabled(true);
