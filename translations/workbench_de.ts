@@ -489,6 +489,25 @@
     </message>
 </context>
 <context>
+    <name>Host::Legend</name>
+    <message>
+        <source>Held (black)</source>
+        <translation>Gehalten (schwarz)</translation>
+    </message>
+    <message>
+        <source>Free (white)</source>
+        <translation>Frei (weiß)</translation>
+    </message>
+    <message>
+        <source>No weight image</source>
+        <translation>Kein Gewichtsbild</translation>
+    </message>
+    <message>
+        <source>Legend of the weights</source>
+        <translation>Legende der Gewichte</translation>
+    </message>
+</context>
+<context>
     <name>Host::MainWindow</name>
     <message>
         <source>Scene</source>
@@ -673,10 +692,63 @@
     </message>
 </context>
 <context>
+    <name>Host::ViewActions</name>
+    <message>
+        <source>&amp;Frame Selection</source>
+        <translation>&amp;Auswahl einpassen</translation>
+    </message>
+    <message>
+        <source>Frame &amp;All</source>
+        <translation>A&amp;lles einpassen</translation>
+    </message>
+    <message>
+        <source>F&amp;ront</source>
+        <translation>&amp;Vorne</translation>
+    </message>
+    <message>
+        <source>&amp;Side</source>
+        <translation>&amp;Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>&amp;Oben</translation>
+    </message>
+    <message>
+        <source>Shows the weight images on the model: what is held and what moves freely</source>
+        <translation>Zeigt die Gewichtsbilder auf dem Modell: was gehalten wird und was sich frei bewegt</translation>
+    </message>
+    <message>
+        <source>Show Wei&amp;ghts</source>
+        <translation>&amp;Gewichte zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewTexts</name>
+    <message>
+        <source>Grid: %1 cm</source>
+        <translation>Raster: %1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewedScene</name>
+    <message>
+        <source>Triangles that cannot be shown, because a corner is nowhere: %L1</source>
+        <translation>Dreiecke, die nicht gezeigt werden können, weil eine Ecke nirgends liegt: %L1</translation>
+    </message>
+    <message>
+        <source>Textures that cannot be read: %1</source>
+        <translation>Texturen, die nicht gelesen werden können: %1</translation>
+    </message>
+</context>
+<context>
     <name>Host::ViewportWidget</name>
     <message>
         <source>View of the model</source>
         <translation>Ansicht des Modells</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>

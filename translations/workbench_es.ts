@@ -489,6 +489,25 @@
     </message>
 </context>
 <context>
+    <name>Host::Legend</name>
+    <message>
+        <source>Held (black)</source>
+        <translation>Sujeto (negro)</translation>
+    </message>
+    <message>
+        <source>Free (white)</source>
+        <translation>Libre (blanco)</translation>
+    </message>
+    <message>
+        <source>No weight image</source>
+        <translation>Sin imagen de pesos</translation>
+    </message>
+    <message>
+        <source>Legend of the weights</source>
+        <translation>Leyenda de los pesos</translation>
+    </message>
+</context>
+<context>
     <name>Host::MainWindow</name>
     <message>
         <source>Scene</source>
@@ -673,10 +692,63 @@
     </message>
 </context>
 <context>
+    <name>Host::ViewActions</name>
+    <message>
+        <source>&amp;Frame Selection</source>
+        <translation>&amp;Encuadrar la selección</translation>
+    </message>
+    <message>
+        <source>Frame &amp;All</source>
+        <translation>Encuadrar &amp;todo</translation>
+    </message>
+    <message>
+        <source>F&amp;ront</source>
+        <translation>&amp;Frontal</translation>
+    </message>
+    <message>
+        <source>&amp;Side</source>
+        <translation>&amp;Lateral</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>&amp;Superior</translation>
+    </message>
+    <message>
+        <source>Shows the weight images on the model: what is held and what moves freely</source>
+        <translation>Muestra las imágenes de pesos sobre el modelo: lo que queda sujeto y lo que se mueve libremente</translation>
+    </message>
+    <message>
+        <source>Show Wei&amp;ghts</source>
+        <translation>Mostrar los &amp;pesos</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewTexts</name>
+    <message>
+        <source>Grid: %1 cm</source>
+        <translation>Cuadrícula: %1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewedScene</name>
+    <message>
+        <source>Triangles that cannot be shown, because a corner is nowhere: %L1</source>
+        <translation>Triángulos que no se pueden mostrar porque un vértice no está en ningún sitio: %L1</translation>
+    </message>
+    <message>
+        <source>Textures that cannot be read: %1</source>
+        <translation>Texturas que no se pueden leer: %1</translation>
+    </message>
+</context>
+<context>
     <name>Host::ViewportWidget</name>
     <message>
         <source>View of the model</source>
         <translation>Vista del modelo</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>

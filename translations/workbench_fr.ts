@@ -489,6 +489,25 @@
     </message>
 </context>
 <context>
+    <name>Host::Legend</name>
+    <message>
+        <source>Held (black)</source>
+        <translation>Tenu (noir)</translation>
+    </message>
+    <message>
+        <source>Free (white)</source>
+        <translation>Libre (blanc)</translation>
+    </message>
+    <message>
+        <source>No weight image</source>
+        <translation>Pas d’image de poids</translation>
+    </message>
+    <message>
+        <source>Legend of the weights</source>
+        <translation>Légende des poids</translation>
+    </message>
+</context>
+<context>
     <name>Host::MainWindow</name>
     <message>
         <source>Scene</source>
@@ -673,10 +692,63 @@
     </message>
 </context>
 <context>
+    <name>Host::ViewActions</name>
+    <message>
+        <source>&amp;Frame Selection</source>
+        <translation>Cadrer la &amp;sélection</translation>
+    </message>
+    <message>
+        <source>Frame &amp;All</source>
+        <translation>Cadrer &amp;tout</translation>
+    </message>
+    <message>
+        <source>F&amp;ront</source>
+        <translation>&amp;Face</translation>
+    </message>
+    <message>
+        <source>&amp;Side</source>
+        <translation>&amp;Côté</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>&amp;Dessus</translation>
+    </message>
+    <message>
+        <source>Shows the weight images on the model: what is held and what moves freely</source>
+        <translation>Affiche les images de poids sur le modèle : ce qui est tenu et ce qui bouge librement</translation>
+    </message>
+    <message>
+        <source>Show Wei&amp;ghts</source>
+        <translation>Afficher les &amp;poids</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewTexts</name>
+    <message>
+        <source>Grid: %1 cm</source>
+        <translation>Grille : %1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewedScene</name>
+    <message>
+        <source>Triangles that cannot be shown, because a corner is nowhere: %L1</source>
+        <translation>Triangles qui ne peuvent pas être affichés, car un sommet n’est nulle part : %L1</translation>
+    </message>
+    <message>
+        <source>Textures that cannot be read: %1</source>
+        <translation>Textures illisibles : %1</translation>
+    </message>
+</context>
+<context>
     <name>Host::ViewportWidget</name>
     <message>
         <source>View of the model</source>
         <translation>Vue du modèle</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>

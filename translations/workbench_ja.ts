@@ -489,6 +489,25 @@
     </message>
 </context>
 <context>
+    <name>Host::Legend</name>
+    <message>
+        <source>Held (black)</source>
+        <translation>固定（黒）</translation>
+    </message>
+    <message>
+        <source>Free (white)</source>
+        <translation>自由（白）</translation>
+    </message>
+    <message>
+        <source>No weight image</source>
+        <translation>ウェイト画像なし</translation>
+    </message>
+    <message>
+        <source>Legend of the weights</source>
+        <translation>ウェイトの凡例</translation>
+    </message>
+</context>
+<context>
     <name>Host::MainWindow</name>
     <message>
         <source>Scene</source>
@@ -673,10 +692,63 @@
     </message>
 </context>
 <context>
+    <name>Host::ViewActions</name>
+    <message>
+        <source>&amp;Frame Selection</source>
+        <translation>選択をフレームに収める(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Frame &amp;All</source>
+        <translation>すべてをフレームに収める(&amp;A)</translation>
+    </message>
+    <message>
+        <source>F&amp;ront</source>
+        <translation>前面(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Side</source>
+        <translation>側面(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>上面(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Shows the weight images on the model: what is held and what moves freely</source>
+        <translation>ウェイト画像をモデル上に表示します。固定される部分と自由に動く部分が分かります</translation>
+    </message>
+    <message>
+        <source>Show Wei&amp;ghts</source>
+        <translation>ウェイトを表示(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewTexts</name>
+    <message>
+        <source>Grid: %1 cm</source>
+        <translation>グリッド: %1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewedScene</name>
+    <message>
+        <source>Triangles that cannot be shown, because a corner is nowhere: %L1</source>
+        <translation>頂点の位置がないため表示できない三角形: %L1</translation>
+    </message>
+    <message>
+        <source>Textures that cannot be read: %1</source>
+        <translation>読み込めないテクスチャ: %1</translation>
+    </message>
+</context>
+<context>
     <name>Host::ViewportWidget</name>
     <message>
         <source>View of the model</source>
         <translation>モデルのビュー</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 <context>

@@ -489,6 +489,25 @@
     </message>
 </context>
 <context>
+    <name>Host::Legend</name>
+    <message>
+        <source>Held (black)</source>
+        <translation>固定（黑）</translation>
+    </message>
+    <message>
+        <source>Free (white)</source>
+        <translation>自由（白）</translation>
+    </message>
+    <message>
+        <source>No weight image</source>
+        <translation>無權重影像</translation>
+    </message>
+    <message>
+        <source>Legend of the weights</source>
+        <translation>權重圖例</translation>
+    </message>
+</context>
+<context>
     <name>Host::MainWindow</name>
     <message>
         <source>Scene</source>
@@ -673,10 +692,63 @@
     </message>
 </context>
 <context>
+    <name>Host::ViewActions</name>
+    <message>
+        <source>&amp;Frame Selection</source>
+        <translation>縮放至所選(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Frame &amp;All</source>
+        <translation>縮放至全部(&amp;A)</translation>
+    </message>
+    <message>
+        <source>F&amp;ront</source>
+        <translation>前視圖(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Side</source>
+        <translation>側視圖(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>頂視圖(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Shows the weight images on the model: what is held and what moves freely</source>
+        <translation>在模型上顯示權重影像：哪些部分固定，哪些部分自由移動</translation>
+    </message>
+    <message>
+        <source>Show Wei&amp;ghts</source>
+        <translation>顯示權重(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewTexts</name>
+    <message>
+        <source>Grid: %1 cm</source>
+        <translation>網格：%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ViewedScene</name>
+    <message>
+        <source>Triangles that cannot be shown, because a corner is nowhere: %L1</source>
+        <translation>因頂點位置無效而無法顯示的三角形：%L1</translation>
+    </message>
+    <message>
+        <source>Textures that cannot be read: %1</source>
+        <translation>無法讀取的貼圖：%1</translation>
+    </message>
+</context>
+<context>
     <name>Host::ViewportWidget</name>
     <message>
         <source>View of the model</source>
         <translation>模型檢視</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 <context>

@@ -31,6 +31,12 @@ QPoint PixelAt(const QVector2D& uv, const QSize& size)
     return {PixelOf(InImage(uv.x()), size.width()), size.height() - 1 - PixelOf(InImage(uv.y()), size.height())};
 }
 
+quint8 GrayAtVertex(const Mesh& mesh, quint32 vertex, const QImage& image, const GrayTable& table)
+{
+    const QPoint pixel = PixelAt(vertex < mesh.uvs.size() ? mesh.uvs[vertex] : QVector2D(), image.size());
+    return table[GrayOfPixel(image, pixel.x(), pixel.y())];
+}
+
 int CountMovingVertices(const Mesh& mesh, const MaterialSlot& slot, const QImage& image, const GrayTable& table)
 {
     if (image.isNull()) {
@@ -43,8 +49,7 @@ int CountMovingVertices(const Mesh& mesh, const MaterialSlot& slot, const QImage
             continue;
         }
         seen[vertex] = true;
-        const QPoint pixel = PixelAt(vertex < mesh.uvs.size() ? mesh.uvs[vertex] : QVector2D(), image.size());
-        moving += table[GrayOfPixel(image, pixel.x(), pixel.y())] > 0 ? 1 : 0;
+        moving += GrayAtVertex(mesh, vertex, image, table) > 0 ? 1 : 0;
     }
     return moving;
 }

@@ -26,8 +26,11 @@ inline quint8 GrayOfPixel(const QImage& image, int x, int y)
 /// outside of them the image repeats. What is not a number counts as 0.
 QPoint PixelAt(const QVector2D& uv, const QSize& size);
 
-/// How many vertices of \p slot, each counted once, move under a weight image: those at whose UV the adjusted gray is
-/// above 0. The pixel that the UV lies in decides, without blending. A mesh without UVs has (0, 0) everywhere.
+/// The gray, after \p table, that \p image has at a vertex of \p mesh: that of the pixel that its UV lies in, without
+/// blending. A mesh without UVs has (0, 0) everywhere. The image is not null.
+quint8 GrayAtVertex(const Mesh& mesh, quint32 vertex, const QImage& image, const GrayTable& table);
+
+/// How many vertices of \p slot, each counted once, move under a weight image: those whose gray is above 0.
 int CountMovingVertices(const Mesh& mesh, const MaterialSlot& slot, const QImage& image, const GrayTable& table);
 
 } // namespace Host

@@ -144,6 +144,17 @@ void HostApplication::SelectAgain()
     Send("ObjectSelectionChanged", &CEventSender::ObjectSelectionChanged);
 }
 
+void HostApplication::Click(BF::CHandle* object, int index, bool hasSelected)
+{
+    const bool choosesMaterials =
+        m_scene->dialogMode == MV::EDialogMode::WeightMap || m_scene->pickMode == MV::EPickMode::Material;
+    if (index >= 0 && choosesMaterials) {
+        PickMaterial(object, index);
+    } else if (!hasSelected) {
+        SelectAgain();
+    }
+}
+
 void HostApplication::PickMaterial(BF::CHandle* object, int index)
 {
     Send("PickedMaterialIndexChanged", &CEventSender::PickedMaterialIndexChanged, object,

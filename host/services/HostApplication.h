@@ -96,6 +96,10 @@ public:
     /// The user has selected what is selected already: sends the event once more, so that the panel begins anew with
     /// it.
     void SelectAgain();
+    /// The user has clicked on material number \p index of an object that is selected now; -1 for none. Chooses the
+    /// material while materials are being chosen, that is while the weight map dialog is open or one is being picked.
+    /// Selects the object again unless the click has just selected it.
+    void Click(BF::CHandle* object, int index, bool hasSelected);
     /// The user has chosen a material, number \p index of those of \p object.
     void PickMaterial(BF::CHandle* object, int index);
     /// Objects that come back by one of these are selected.

@@ -37,8 +37,7 @@ std::vector<float> FreedomOf(const Mesh& mesh, const MaterialSlot& slot, const W
     }
     const GrayTable table = AdjustTable(weight.brightness, weight.contrast);
     for (const quint32 vertex : slot.indices) {
-        const QPoint pixel = PixelAt(vertex < mesh.uvs.size() ? mesh.uvs[vertex] : QVector2D(), image.size());
-        freedom[vertex] = AllowedDistance(table[GrayOfPixel(image, pixel.x(), pixel.y())]);
+        freedom[vertex] = AllowedDistance(GrayAtVertex(mesh, vertex, image, table));
     }
     return freedom;
 }

@@ -8,6 +8,7 @@
 #include <QOpenGLFunctions>
 
 #include <algorithm>
+#include <iterator>
 
 namespace Host {
 
@@ -46,6 +47,9 @@ bool GpuImages::Update(ViewedImages& images, int milliseconds)
 {
     QElapsedTimer timer;
     timer.start();
+    for (auto known = m_textures.begin(); known != m_textures.end();) {
+        known = known->first < images.Count() ? std::next(known) : m_textures.erase(known);
+    }
     for (int image = 0; image < images.Count(); ++image) {
         Entry& entry = m_textures[image];
         if (entry.revision == images.Revision(image) || !images.IsReady(image)) {

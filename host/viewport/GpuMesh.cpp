@@ -44,6 +44,9 @@ GpuMesh::GpuMesh(const MeshGeometry& geometry)
     CreateBuffer(m_uvs, QOpenGLBuffer::StaticDraw);
     SetAttribute(Shaders::Uv, 2, GL_FLOAT, false);
     Fill(m_uvs, geometry.uvs);
+    CreateBuffer(m_weights, QOpenGLBuffer::DynamicDraw);
+    SetAttribute(Shaders::Weight, 1, GL_UNSIGNED_BYTE, true);
+    Fill(m_weights, std::vector<quint8>(geometry.positions.size()));
     CreateBuffer(m_indices, QOpenGLBuffer::StaticDraw);
     Fill(m_indices, geometry.indices);
     m_arrays.release();
@@ -51,13 +54,19 @@ GpuMesh::GpuMesh(const MeshGeometry& geometry)
 
 int GpuMesh::Update(const ViewedMesh& mesh)
 {
-    if (m_movedRevision == mesh.movedRevision) {
-        return 0;
+    int uploads = 0;
+    if (m_movedRevision != mesh.movedRevision) {
+        Fill(m_positions, mesh.Positions());
+        Fill(m_normals, mesh.Normals());
+        m_movedRevision = mesh.movedRevision;
+        uploads += 2;
     }
-    Fill(m_positions, mesh.Positions());
-    Fill(m_normals, mesh.Normals());
-    m_movedRevision = mesh.movedRevision;
-    return 2;
+    if (m_weightsRevision != mesh.weightsRevision) {
+        Fill(m_weights, mesh.weights);
+        m_weightsRevision = mesh.weightsRevision;
+        ++uploads;
+    }
+    return uploads;
 }
 
 void GpuMesh::Draw(const GeometryPart& part)

@@ -24,8 +24,10 @@ private:
     QOpenGLBuffer m_positions{QOpenGLBuffer::VertexBuffer};
     QOpenGLBuffer m_normals{QOpenGLBuffer::VertexBuffer};
     QOpenGLBuffer m_uvs{QOpenGLBuffer::VertexBuffer};
+    QOpenGLBuffer m_weights{QOpenGLBuffer::VertexBuffer};
     QOpenGLBuffer m_indices{QOpenGLBuffer::IndexBuffer};
     int m_movedRevision = -1;
+    int m_weightsRevision = 0;
 };
 
 } // namespace Host

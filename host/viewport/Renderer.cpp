@@ -2,10 +2,12 @@
 
 #include "host/viewport/Camera.h"
 #include "host/viewport/ModelShaders.h"
+#include "host/viewport/WeightColours.h"
 
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -15,7 +17,19 @@ namespace {
 
 const QColor background(48, 48, 50);
 constexpr float objectMark = 0.5F;
+constexpr float materialMark = 1.0F;
 constexpr int imageMilliseconds = 40; ///< Spent on new images before a picture.
+
+std::unique_ptr<QOpenGLTexture> NewWeightColours()
+{
+    const std::array<QRgb, 256> colours = WeightColours();
+    QImage line(int(colours.size()), 1, QImage::Format_RGB32);
+    std::copy(colours.begin(), colours.end(), reinterpret_cast<QRgb*>(line.scanLine(0)));
+    auto texture = std::make_unique<QOpenGLTexture>(line, QOpenGLTexture::DontGenerateMipMaps);
+    texture->setMinMagFilters(QOpenGLTexture::Linear, QOpenGLTexture::Linear);
+    texture->setWrapMode(QOpenGLTexture::ClampToEdge);
+    return texture;
+}
 
 } // namespace
 
@@ -24,7 +38,9 @@ bool Renderer::Draw(ViewedScene& scene, const Camera& camera, unsigned target, c
     // The first picture comes without images: they take longest.
     const bool isFirst = m_meshes.empty() && !scene.Meshes().empty();
     const bool isComplete = !isFirst && m_images.Update(scene.Images(), imageMilliseconds);
-    Upload(scene);
+    if (std::exchange(m_sceneRevision, scene.Revision()) != scene.Revision()) {
+        Upload(scene);
+    }
 
     QOpenGLFunctions& gl = *QOpenGLContext::currentContext()->functions();
     m_frame.Begin(size);
@@ -36,8 +52,7 @@ bool Renderer::Draw(ViewedScene& scene, const Camera& camera, unsigned target, c
     constexpr float stripeWidth = 6.0F;
     DrawMeshes(scene, {camera.ViewMatrix(), camera.ProjectionMatrix(), stripeWidth * float(scale)});
     m_grid.Draw(camera);
-    const bool isAnySelected = !scene.BoundsOfSelection().isEmpty;
-    m_frame.Finish(target, isAnySelected ? std::max(1, int(std::lround(1.5 * scale))) : 0);
+    m_frame.Finish(target, m_isAnySelected ? std::max(1, int(std::lround(1.5 * scale))) : 0);
     return isComplete;
 }
 
@@ -53,6 +68,7 @@ void Renderer::Upload(const ViewedScene& scene)
         m_uploads += known->Update(mesh);
         m_meshes[mesh.mesh] = std::move(known);
     }
+    m_isAnySelected = !scene.BoundsOfSelection().isEmpty;
 }
 
 void Renderer::DrawMeshes(const ViewedScene& scene, const ModelProgram::Frame& frame)
@@ -60,18 +76,32 @@ void Renderer::DrawMeshes(const ViewedScene& scene, const ModelProgram::Frame& f
     const ModelProgram* bound = nullptr;
     for (const ViewedMesh& mesh : scene.Meshes()) {
         for (const ViewedPart& part : mesh.parts) {
-            ModelProgram& program = Program(BindImages(part));
+            ModelProgram& program = Program(scene.AreWeightsShown() ? BindWeights(part) : BindImages(part));
             if (bound != &program) {
                 program.Bind(frame);
                 bound = &program;
             }
-            ModelProgram::Surface surface;
-            surface.diffuse = part.diffuse;
-            surface.mark = mesh.isSelected ? objectMark : 0.0F;
-            program.SetSurface(surface);
+            program.SetSurface(SurfaceOf(mesh, part));
             m_meshes[mesh.mesh]->Draw(part.range);
         }
     }
+}
+
+ModelProgram::Surface Renderer::SurfaceOf(const ViewedMesh& mesh, const ViewedPart& part) const
+{
+    ModelProgram::Surface surface;
+    surface.diffuse = part.diffuse;
+    surface.mark = part.isCurrent ? materialMark : mesh.isSelected ? objectMark : 0.0F;
+    if (m_pointedMesh == mesh.mesh && m_pointedMaterial == part.range.material) {
+        surface.glow = {0.55F, 0.50F, 0.25F};
+    }
+    return surface;
+}
+
+void Renderer::Point(Id mesh, Id material)
+{
+    m_pointedMesh = mesh;
+    m_pointedMaterial = material;
 }
 
 /// \return the features that the program needs for them
@@ -87,6 +117,18 @@ unsigned Renderer::BindImages(const ViewedPart& part)
         features |= Shaders::OpacityImage;
     }
     return features;
+}
+
+unsigned Renderer::BindWeights(const ViewedPart& part)
+{
+    if (!part.hasWeights) {
+        return Shaders::NoWeights;
+    }
+    if (!m_weightColours) {
+        m_weightColours = NewWeightColours();
+    }
+    m_weightColours->bind(Shaders::WeightUnit);
+    return Shaders::Weights;
 }
 
 ModelProgram& Renderer::Program(unsigned features)

@@ -1,6 +1,8 @@
 #include "host/viewport/ViewedImages.h"
 
-#include <algorithm>
+#include <QFileInfo>
+
+#include <utility>
 
 namespace Host {
 
@@ -9,36 +11,44 @@ int ViewedImages::Add(const Texture& texture)
     if (texture.filePath.isEmpty() && texture.embedded.isEmpty()) {
         return none;
     }
-    const auto found = std::find_if(m_images.begin(), m_images.end(), [&texture](const Entry& entry) {
-        return texture.filePath.isEmpty()
-                   ? entry.texture.filePath.isEmpty() && entry.texture.embedded.isSharedWith(texture.embedded)
-                   : entry.texture.filePath == texture.filePath;
-    });
-    if (found != m_images.end()) {
-        return int(found - m_images.begin());
+    const bool isFile = !texture.filePath.isEmpty();
+    const int known =
+        isFile ? m_files.value(texture.filePath, none) : m_embedded.value(texture.embedded.constData(), none);
+    if (known != none) {
+        return known;
     }
-    m_images.push_back({texture, ImageStore::Key(texture), ++m_revision});
-    return Count() - 1;
+    const int number = Count();
+    m_images.push_back({texture, ImageStore::Key(texture), ++m_revision, false});
+    if (isFile) {
+        m_files.insert(texture.filePath, number);
+    } else {
+        m_embedded.insert(texture.embedded.constData(), number);
+    }
+    return number;
 }
 
-bool ViewedImages::Refresh()
+void ViewedImages::Clear()
 {
-    bool hasChanged = false;
+    m_images.clear();
+    m_files.clear();
+    m_embedded.clear();
+}
+
+void ViewedImages::Refresh()
+{
     for (Entry& entry : m_images) {
         ImageStore::Key key(entry.texture);
         if (!(key == entry.key)) {
             entry.key = std::move(key);
             entry.revision = ++m_revision;
-            hasChanged = true;
         }
     }
-    return hasChanged;
 }
 
-void ViewedImages::Touch(const QString& path)
+void ViewedImages::Touch()
 {
     for (Entry& entry : m_images) {
-        if (!path.isEmpty() && entry.texture.filePath == path) {
+        if (!entry.texture.filePath.isEmpty()) {
             entry.revision = ++m_revision;
         }
     }
@@ -46,7 +56,21 @@ void ViewedImages::Touch(const QString& path)
 
 QImage ViewedImages::Get(int image)
 {
-    return m_store.Get(m_images[std::size_t(image)].texture)->image;
+    Entry& entry = m_images[std::size_t(image)];
+    QImage picture = m_store.Get(entry.texture)->image;
+    entry.isUnreadable = picture.isNull();
+    return picture;
+}
+
+QStringList ViewedImages::Unreadable() const
+{
+    QStringList names;
+    for (const Entry& entry : m_images) {
+        if (entry.isUnreadable) {
+            names.append(QFileInfo(entry.texture.filePath).fileName());
+        }
+    }
+    return names;
 }
 
 } // namespace Host

@@ -2,8 +2,12 @@
 
 #include "host/services/HostApplication.h"
 #include "host/services/Pictures.h"
+#include "host/viewport/WeightColours.h"
+
+#include <QSet>
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 namespace Host {
@@ -24,6 +28,11 @@ ViewedScene::ViewedScene(HostApplication& host, QObject* parent)
         m_later.start();
     });
     connect(&host.Images().Store(), &ImageStore::LoadingDone, this, soon);
+    connect(host.GetEventSender(), &MV::CEventSender::LaunchedImageChanged, this, [this] {
+        m_images.Touch();
+        ++m_touch;
+        m_later.start();
+    });
     ConnectScene();
 }
 
@@ -35,6 +44,7 @@ void ViewedScene::ConnectScene()
     connect(&scene, &Scene::SelectionChanged, this, soon);
     connect(&scene, &Scene::EditApplied, this, soon);
     m_meshes.clear();
+    m_seen.clear();
     m_images.Clear();
     m_current = {};
     m_later.start();
@@ -43,12 +53,18 @@ void ViewedScene::ConnectScene()
 void ViewedScene::Refresh()
 {
     m_later.stop();
-    const std::size_t before = m_meshes.size();
-    RefreshMeshes();
+    const std::size_t before = m_seen.size();
     m_images.Refresh();
-    if (m_meshes.size() > before) {
+    RefreshMeshes();
+    if (m_seen.size() > before) {
         Q_EMIT ObjectsCame();
     }
+    Announce();
+}
+
+void ViewedScene::Announce()
+{
+    ++m_revision;
     Q_EMIT Changed();
 }
 
@@ -61,21 +77,22 @@ void ViewedScene::RefreshMeshes()
     }
     m_meshes.clear();
     const QVector<BF::CHandle*>& selection = m_host.CurrentScene().Selection();
+    const QSet<BF::CHandle*> selected(selection.cbegin(), selection.cend());
     for (const Object* object : m_host.CurrentScene().Objects()) {
         for (const Mesh& mesh : object->meshes) {
             const auto found = known.find(mesh.id);
             ViewedMesh viewed = found == known.end() ? NewMesh(*object, mesh) : std::move(found->second);
-            if (viewed.geometry->indices.empty()) {
-                continue;
+            viewed.isSelected = selected.contains(object->handle);
+            for (ViewedPart& part : viewed.parts) {
+                RefreshPart(mesh, viewed, part);
             }
-            viewed.isSelected = selection.contains(object->handle);
-            RefreshParts(*object, viewed);
+            m_seen.insert(mesh.id);
             m_meshes.push_back(std::move(viewed));
         }
     }
 }
 
-ViewedMesh ViewedScene::NewMesh(const Object& object, const Mesh& mesh) const
+ViewedMesh ViewedScene::NewMesh(const Object& object, const Mesh& mesh)
 {
     ViewedMesh viewed;
     viewed.object = object.handle;
@@ -88,13 +105,11 @@ ViewedMesh ViewedScene::NewMesh(const Object& object, const Mesh& mesh) const
     return viewed;
 }
 
-void ViewedScene::RefreshParts(const Object& object, ViewedMesh& viewed)
+void ViewedScene::RefreshPart(const Mesh& mesh, ViewedMesh& viewed, ViewedPart& part)
 {
-    for (ViewedPart& part : viewed.parts) {
-        const Material* material = m_host.CurrentScene().FindMaterial(part.range.material);
-        if (!material || m_host.CurrentScene().OwnerOfMaterial(material->id) != &object) {
-            continue;
-        }
+    part.isCurrent = viewed.isSelected && m_current.object == viewed.object && m_current.mesh == viewed.mesh &&
+                     m_current.material == part.range.material;
+    if (const Material* material = m_host.CurrentScene().FindMaterial(part.range.material)) {
         const auto imageOf = [&](MV::ETextureChannel channel) {
             const auto texture = material->textures.find(channel);
             return texture == material->textures.end() ? ViewedImages::none : m_images.Add(texture->second);
@@ -103,6 +118,56 @@ void ViewedScene::RefreshParts(const Object& object, ViewedMesh& viewed)
         part.diffuseImage = imageOf(MV::ETextureChannel::Diffuse);
         part.opacityImage = imageOf(MV::ETextureChannel::Opacity);
     }
+    if (m_areWeightsShown) {
+        RefreshWeights(mesh, viewed, part);
+    }
+}
+
+void ViewedScene::RefreshWeights(const Mesh& mesh, ViewedMesh& viewed, ViewedPart& part)
+{
+    const WeightImage& weight = mesh.materialSlots[part.range.slot].cloth.weight;
+    ImageStore& store = m_host.Images().Store();
+    if (weight.IsNone()) {
+        part.hasWeights = false;
+        part.weightsState.reset();
+        return;
+    }
+    const WeightState state{ImageStore::Key(weight.image), weight.brightness, weight.contrast, m_touch};
+    // What others load at the moment comes with LoadingDone().
+    if (part.weightsState == state || store.IsLoading(weight.image)) {
+        return;
+    }
+    const QImage image = store.Get(weight.image)->image;
+    part.hasWeights = !image.isNull();
+    part.weightsState = state;
+    if (part.hasWeights) {
+        SetWeights(viewed.weights, part.range, *viewed.geometry, mesh, image,
+                   AdjustTable(weight.brightness, weight.contrast));
+        viewed.weightsRevision = ++m_revision;
+    }
+}
+
+void ViewedScene::ShowWeights(bool areShown)
+{
+    m_areWeightsShown = areShown;
+    Refresh();
+}
+
+QString ViewedScene::Problems() const
+{
+    std::size_t lost = 0;
+    for (const ViewedMesh& mesh : m_meshes) {
+        lost += mesh.geometry->lostTriangles;
+    }
+    QStringList sentences;
+    if (lost > 0) {
+        sentences.append(tr("Triangles that cannot be shown, because a corner is nowhere: %L1").arg(lost));
+    }
+    const QStringList unreadable = m_images.Unreadable();
+    if (!unreadable.isEmpty()) {
+        sentences.append(tr("Textures that cannot be read: %1").arg(unreadable.join(QLatin1String(", "))));
+    }
+    return sentences.join(QLatin1Char('\n'));
 }
 
 Bounds ViewedScene::BoundsOfAll() const
@@ -144,7 +209,7 @@ void ViewedScene::SetPositions(BF::CHandle* object, Id mesh, const std::vector<Q
         found->movedNormals[i] = normals[sources[i]];
     }
     found->movedRevision = ++m_revision;
-    Q_EMIT Changed();
+    Announce();
 }
 
 void ViewedScene::ResetPositions()
@@ -156,7 +221,7 @@ void ViewedScene::ResetPositions()
             mesh.movedRevision = ++m_revision;
         }
     }
-    Q_EMIT Changed();
+    Announce();
 }
 
 } // namespace Host

@@ -98,7 +98,10 @@ void MainWindow::CreateDocks()
         addDockWidget(area, dock);
         return dock;
     };
-    new Centre(m_host, *this);
+    m_centre = new Centre(m_host, *this);
+    if (m_centre->View()) {
+        m_edit->DeleteFrom(m_centre->View());
+    }
     auto* sceneTree = new SceneTree(m_host);
     m_edit->DeleteFrom(sceneTree);
     QDockWidget* tree = addDock(tr("Scene"), "sceneDock", sceneTree, Qt::LeftDockWidgetArea);
@@ -132,6 +135,7 @@ void MainWindow::CreateViewMenu()
     QMenu* view = menuBar()->addMenu(tr("&View"));
     view->setObjectName(QStringLiteral("viewMenu"));
     view->addAction((new PanelActions(m_host, *this))->WeightMapDialog());
+    view->addActions(m_centre->Commands());
     view->addSeparator();
     const auto docks = findChildren<QDockWidget*>();
     for (const QDockWidget* dock : docks) {
@@ -222,6 +226,7 @@ void MainWindow::TakeOver(MainWindow& old)
     m_files->TakeOver(*old.m_files);
     restoreGeometry(old.saveGeometry());
     restoreState(old.saveState());
+    m_centre->TakeOver(*old.m_centre);
     setVisible(old.isVisible());
     StartPluginAgain(old, old.m_libraryFile, old.m_app);
 }

@@ -15,6 +15,7 @@ class QLabel;
 
 namespace Host {
 
+class Centre;
 class EditMenu;
 class HostControls;
 class LanguageMenu;
@@ -84,6 +85,7 @@ private:
     PluginHost m_pluginHost; ///< Dies before the host and before the panel that shows its sections.
     SceneFiles* m_files;
     EditMenu* m_edit;
+    Centre* m_centre = nullptr;
     ModifyPanel* m_modifyPanel = nullptr;
     HostControls* m_controls = nullptr;
     QLabel* m_panelPage = nullptr;

@@ -147,15 +147,8 @@ void SceneTree::mousePressEvent(QMouseEvent* event)
 
 void SceneTree::OnItemClicked(QTreeWidgetItem* item)
 {
-    const Scene& scene = m_host.CurrentScene();
-    const int index = item->data(0, materialIndexRole).toInt();
-    const bool choosesMaterials =
-        scene.dialogMode == MV::EDialogMode::WeightMap || scene.pickMode == MV::EPickMode::Material;
-    if (index >= 0 && choosesMaterials) {
-        m_host.PickMaterial(ObjectOf(item), index);
-    } else if (!m_clickSelected && item->isSelected()) {
-        m_host.SelectAgain();
-    }
+    // A row that the click has taken out of the selection selects nothing again.
+    m_host.Click(ObjectOf(item), item->data(0, materialIndexRole).toInt(), m_clickSelected || !item->isSelected());
 }
 
 void SceneTree::OpenMeshesForPicking()

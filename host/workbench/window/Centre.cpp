@@ -5,6 +5,7 @@
 
 #ifdef SOFTCLOTH_HAS_VIEWPORT
 #include "host/viewport/GlProbe.h"
+#include "host/viewport/ViewActions.h"
 #include "host/viewport/ViewportWidget.h"
 #endif
 
@@ -22,13 +23,34 @@ Centre::Centre(HostApplication& host, QMainWindow& window)
     auto* calls = new HostCallsView(host.Journal(), &window);
 #ifdef SOFTCLOTH_HAS_VIEWPORT
     if (HasViewportGl()) {
-        window.setCentralWidget(new ViewportWidget(host, &window));
+        m_view = new ViewportWidget(host, &window);
+        window.setCentralWidget(m_view);
         ShowCallsBelow(calls);
         return;
     }
     ShowCallsAlone(calls, tr("The model is not shown, because there is no OpenGL 3.3 on this display."));
 #else
     ShowCallsAlone(calls, tr("The model is not shown, because this workbench was built without a view of it."));
+#endif
+}
+
+QList<QAction*> Centre::Commands() const
+{
+#ifdef SOFTCLOTH_HAS_VIEWPORT
+    if (const auto* view = static_cast<ViewportWidget*>(m_view)) {
+        const ViewActions& actions = view->Actions();
+        return {actions.ShowWeights(), actions.FrameSelection(), actions.FrameAll()};
+    }
+#endif
+    return {};
+}
+
+void Centre::TakeOver([[maybe_unused]] const Centre& other)
+{
+#ifdef SOFTCLOTH_HAS_VIEWPORT
+    if (m_view && other.m_view) {
+        static_cast<ViewportWidget*>(m_view)->TakeOver(*static_cast<ViewportWidget*>(other.m_view));
+    }
 #endif
 }
 

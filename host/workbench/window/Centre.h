@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 
+class QAction;
 class QMainWindow;
+class QWidget;
 
 namespace Host {
 
@@ -17,11 +20,19 @@ class Centre : public QObject
 public:
     Centre(HostApplication& host, QMainWindow& window);
 
+    /// The view of the model; null where there is none.
+    QWidget* View() const { return m_view; }
+    /// Commands of the view for the window's menu; none where there is no view.
+    QList<QAction*> Commands() const;
+    /// Shows the same of the model as \p other does.
+    void TakeOver(const Centre& other);
+
 private:
     void ShowCallsBelow(QWidget* calls);
     void ShowCallsAlone(QWidget* calls, const QString& reason);
 
     QMainWindow& m_window;
+    QWidget* m_view = nullptr;
 };
 
 } // namespace Host
