@@ -83,19 +83,20 @@ HostCallsView::HostCallsView(CallJournal& journal, QWidget* parent)
     layout->addWidget(DroppedLabel(journal, this));
     layout->addWidget(m_table);
 
-    // Follows the newest call unless the user has scrolled away from it.
-    connect(m_filtered, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
-        const QScrollBar* bar = m_table->verticalScrollBar();
-        m_table->setProperty("following", bar->value() >= bar->maximum());
+    FollowNewest();
+}
+
+/// Shows the newest call unless the user has scrolled away from it. The bar learns of new rows some time after the
+/// model; its value changes only by a user's hand, or here.
+void HostCallsView::FollowNewest()
+{
+    QScrollBar* bar = m_table->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar] { m_follows = bar->value() >= bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
+        if (m_follows) {
+            bar->setValue(bar->maximum());
+        }
     });
-    connect(
-        m_filtered, &QAbstractItemModel::rowsInserted, this,
-        [this] {
-            if (m_table->property("following").toBool()) {
-                m_table->scrollToBottom();
-            }
-        },
-        Qt::QueuedConnection);
 }
 
 } // namespace Host

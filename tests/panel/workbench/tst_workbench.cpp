@@ -3,6 +3,7 @@
 #include "host/services/Pictures.h"
 #include "host/workbench/MainWindow.h"
 #include "host/workbench/tour/Tour.h"
+#include "plugin/services/SceneService.h"
 #include "tests/support/Children.h"
 #include "tests/support/Files.h"
 #include "tests/support/PanelFixture.h"
@@ -15,6 +16,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -37,6 +39,7 @@ private Q_SLOTS:
     void controlsDriveTheGates();
     void anotherFamilyStartsThePluginAgain();
     void journalViewFilters();
+    void journalViewFollowsTheNewestCall();
     void importCanBeUndone();
     void texturesAreLoadedInTheBackground();
     void problemsWithImagesAreTold();
@@ -240,6 +243,35 @@ void TestWorkbench::journalViewFilters()
     QVERIFY(some > 0 && some < all);
     m_window->Application().Journal().Clear();
     QCOMPARE(table->model()->rowCount(), 0);
+}
+
+void TestWorkbench::journalViewFollowsTheNewestCall()
+{
+    Host::HostApplication& host = m_window->Application();
+    auto* table = Child<QTableView>(m_window.get(), "hostCallsTable");
+    const QScrollBar* bar = table->verticalScrollBar();
+    const auto callOften = [&host, table] {
+        for (int i = 0; i < 50; ++i) {
+            host.GetSceneService()->IsPlaying();
+            // Painted in the middle of the calls, the table lays out its rows before anything else happens.
+            if (i % 10 == 0) {
+                table->grab();
+            }
+        }
+        QCoreApplication::processEvents();
+    };
+    callOften();
+    QTRY_VERIFY(bar->maximum() > 0);
+    QTRY_COMPARE(bar->value(), bar->maximum());
+    QTest::keyClick(table, Qt::Key_Home, Qt::ControlModifier);
+    QCOMPARE(bar->value(), 0);
+    const int before = bar->maximum();
+    callOften();
+    QTRY_VERIFY(bar->maximum() > before);
+    QCOMPARE(bar->value(), 0);
+    QTest::keyClick(table, Qt::Key_End, Qt::ControlModifier);
+    callOften();
+    QTRY_COMPARE(bar->value(), bar->maximum());
 }
 
 void TestWorkbench::importCanBeUndone()
