@@ -50,6 +50,10 @@ ViewportWidget::ViewportWidget(HostApplication& host, QWidget* parent)
 ViewportWidget::~ViewportWidget()
 {
     DropRenderer();
+    // The context ends with the base class, when this is a view no more.
+    if (const QOpenGLContext* const current = context()) {
+        disconnect(current, &QOpenGLContext::aboutToBeDestroyed, this, &ViewportWidget::DropRenderer);
+    }
 }
 
 void ViewportWidget::ConnectActions()
