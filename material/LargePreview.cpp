@@ -1,5 +1,6 @@
 #include "material/LargePreview.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QImage>
 #include <QLabel>
@@ -7,6 +8,7 @@
 #include <QPointer>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QTimer>
 
 #include <utility>
 
@@ -86,8 +88,14 @@ void CLargePreview::RequestLarger()
     }
 }
 
+/// While a file dialog or a message box is open the panel may be ended at any time, and nobody looks at the preview.
 void CLargePreview::Fetch()
 {
+    if (QApplication::activeModalWidget()) {
+        constexpr int patience = 200; // ms
+        QTimer::singleShot(patience, this, &CLargePreview::Fetch);
+        return;
+    }
     const Request request = m_request;
     const QPointer<CLargePreview> self(this);
     // A copy: this object can end in the call.

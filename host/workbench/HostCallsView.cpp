@@ -14,6 +14,8 @@
 #include <QSortFilterProxyModel>
 #include <QTableView>
 
+#include <memory>
+
 namespace Host {
 
 namespace {
@@ -32,6 +34,20 @@ QLabel* DroppedLabel(const CallJournal& journal, QWidget* parent)
     QObject::connect(&journal, &CallJournal::EntriesDropped, label, show);
     QObject::connect(&journal, &CallJournal::Cleared, label, show);
     return label;
+}
+
+/// Keeps a bar at its end unless the user has moved it away from there. It learns of new rows some time after the
+/// model; its value changes only by a user's hand, or here.
+void FollowEnd(QScrollBar& bar)
+{
+    const auto follows = std::make_shared<bool>(true);
+    const auto keepState = [&bar, follows] { *follows = bar.value() >= bar.maximum(); };
+    QObject::connect(&bar, &QScrollBar::valueChanged, &bar, keepState);
+    QObject::connect(&bar, &QScrollBar::rangeChanged, &bar, [&bar, follows] {
+        if (*follows) {
+            bar.setValue(bar.maximum());
+        }
+    });
 }
 
 } // namespace
@@ -83,20 +99,7 @@ HostCallsView::HostCallsView(CallJournal& journal, QWidget* parent)
     layout->addWidget(DroppedLabel(journal, this));
     layout->addWidget(m_table);
 
-    FollowNewest();
-}
-
-/// Shows the newest call unless the user has scrolled away from it. The bar learns of new rows some time after the
-/// model; its value changes only by a user's hand, or here.
-void HostCallsView::FollowNewest()
-{
-    QScrollBar* bar = m_table->verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this, [this, bar] { m_follows = bar->value() >= bar->maximum(); });
-    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
-        if (m_follows) {
-            bar->setValue(bar->maximum());
-        }
-    });
+    FollowEnd(*m_table->verticalScrollBar());
 }
 
 } // namespace Host

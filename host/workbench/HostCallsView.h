@@ -19,12 +19,9 @@ public:
     HostCallsView(CallJournal& journal, QWidget* parent = nullptr);
 
 private:
-    void FollowNewest();
-
     QLineEdit* m_filter;
     QSortFilterProxyModel* m_filtered;
     QTableView* m_table;
-    bool m_follows = true;
 };
 
 } // namespace Host
